@@ -1,0 +1,7 @@
+#include "clipbin/Movie.h"
+
+namespace tarn {
+
+Movie::~Movie() = default;
+
+}  // namespace tarn

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "clipbin/MovieSize.h"
+#include "clipbin/MovieTrack.h"
+#include "datatypes/Export.h"
+
+#include <cstddef>
+
+namespace tarn {
+
+/// An open movie. It owns its tracks, and whatever it holds open is closed by its destructor.
+class TARN_API Movie
+{
+public:
+    virtual ~Movie();
+
+    virtual MovieSize naturalSize() const = 0;
+    virtual std::size_t numTracks() const = 0;
+    /// @param index below numTracks()
+    virtual MovieTrack const& track(std::size_t index) const = 0;
+};
+
+}  // namespace tarn

@@ -1,0 +1,7 @@
+#include "clipbin/MovieFramework.h"
+
+namespace tarn {
+
+MovieFramework::~MovieFramework() = default;
+
+}  // namespace tarn

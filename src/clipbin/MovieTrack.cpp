@@ -1,0 +1,7 @@
+#include "clipbin/MovieTrack.h"
+
+namespace tarn {
+
+MovieTrack::~MovieTrack() = default;
+
+}  // namespace tarn

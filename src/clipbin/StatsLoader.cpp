@@ -1,0 +1,7 @@
+#include "clipbin/StatsLoader.h"
+
+namespace tarn {
+
+StatsLoader::~StatsLoader() = default;
+
+}  // namespace tarn

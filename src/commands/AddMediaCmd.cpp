@@ -1,0 +1,52 @@
+#include "commands/AddMediaCmd.h"
+
+#include "commands/CommandHandler.h"
+#include "commands/XmlAttributes.h"
+#include "timeline/Media.h"
+#include "timeline/Track.h"
+
+#include <ostream>
+
+namespace tarn {
+
+AddMediaCmd::AddMediaCmd(boost::shared_ptr<Track const> const& track,
+                         boost::shared_ptr<Media const> const& media, long long time)
+    : m_track(track), m_media(media), m_time(time), m_oldStart(0)
+{}
+
+boost::shared_ptr<AddMediaCmd> AddMediaCmd::create(boost::shared_ptr<Track const> const& track,
+                                                   boost::shared_ptr<Media const> const& media,
+                                                   long long time)
+{
+    return boost::shared_ptr<AddMediaCmd>(new AddMediaCmd(track, media, time));
+}
+
+AddMediaCmd* AddMediaCmd::clone() const
+{
+    return new AddMediaCmd(*this);
+}
+
+bool AddMediaCmd::execute(CommandHandler* handler)
+{
+    m_oldStart = m_media->timeRange().start;
+    handler->addMedia(m_track, m_media, m_time);
+    return true;
+}
+
+bool AddMediaCmd::unexecute(CommandHandler* handler)
+{
+    handler->removeMedia(m_track, m_media, m_oldStart);
+    return true;
+}
+
+void AddMediaCmd::xmlName(XMLable::Options& options) const
+{
+    *options.stream << "AddMediaCmd";
+}
+
+void AddMediaCmd::xmlAttributes(XMLable::Options& options) const
+{
+    XmlAttributes(options).ident("track", m_track).ident("media", m_media).value("time", m_time);
+}
+
+}  // namespace tarn

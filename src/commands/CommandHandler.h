@@ -1,0 +1,110 @@
+#pragma once
+
+#include "clipbin/ClipBinFwd.h"
+#include "commands/CommandsFwd.h"
+#include "datatypes/Export.h"
+#include "effects/EffectsFwd.h"
+#include "parameters/ParametersFwd.h"
+#include "timeline/TimelineFwd.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <list>
+#include <string>
+#include <utility>
+
+namespace tarn {
+
+/// What a removal took off, each media with the track it lay on.
+using RemovedMedias =
+    std::list<std::pair<boost::shared_ptr<Media const>, boost::shared_ptr<Track const>>>;
+
+/// The primitive edits of a project, as commands call them: each acts at once and records nothing.
+///
+/// A command is handed one by the history. A host may wrap the project's own to watch or change
+/// what commands do (InternalProject::setCommandHandler). Times and offsets are edit units; the
+/// model's classes say what each operation does and throws.
+class TARN_API CommandHandler
+{
+public:
+    virtual ~CommandHandler() = default;
+
+    virtual boost::shared_ptr<VisualMixer> visualMixer() const = 0;
+    virtual boost::shared_ptr<AudioMixer> audioMixer() const = 0;
+    virtual boost::shared_ptr<VisualMixer> newVisualMixer(float width, float height) = 0;
+    virtual boost::shared_ptr<VisualMixer> newVisualMixer(
+        boost::shared_ptr<VisualMixer> const& mixer) = 0;
+    virtual boost::shared_ptr<VisualMixer> removeVisualMixer() = 0;
+    virtual boost::shared_ptr<AudioMixer> newAudioMixer(unsigned int sampleRate,
+                                                        unsigned int bitDepth,
+                                                        unsigned int numChannels) = 0;
+    virtual boost::shared_ptr<AudioMixer> newAudioMixer(
+        boost::shared_ptr<AudioMixer> const& mixer) = 0;
+    virtual boost::shared_ptr<AudioMixer> removeAudioMixer() = 0;
+
+    /// An index of -1 appends.
+    virtual boost::shared_ptr<VisualTrack> newVisualTrack(int index) = 0;
+    virtual boost::shared_ptr<ImageTrack> newImageTrack(int index) = 0;
+    virtual boost::shared_ptr<AudioTrack> newAudioTrack(int index) = 0;
+    virtual boost::shared_ptr<Track> newTrack(boost::shared_ptr<Mixer const> const& mixer,
+                                              int index) = 0;
+    virtual boost::shared_ptr<Track> addTrack(boost::shared_ptr<Mixer const> const& mixer,
+                                              boost::shared_ptr<Track> const& track, int index) = 0;
+    /// The track and the index it had.
+    virtual std::pair<boost::shared_ptr<Track>, int> removeTrack(
+        boost::shared_ptr<Mixer const> const& mixer,
+        boost::shared_ptr<Track const> const& track) = 0;
+    virtual void swapTrackOrder(boost::shared_ptr<Mixer const> const& mixer,
+                                boost::shared_ptr<Track const> const& track1,
+                                boost::shared_ptr<Track const> const& track2) = 0;
+
+    virtual void addMedia(boost::shared_ptr<Track const> const& track,
+                          boost::shared_ptr<Media const> const& media, long long time) = 0;
+    /// Removes the media and all that is linked to it.
+    virtual boost::shared_ptr<RemovedMedias> removeMedia(
+        boost::shared_ptr<Track const> const& track,
+        boost::shared_ptr<Media const> const& media) = 0;
+    /// Removes the media alone and gives it the start `time`, as before it was added.
+    virtual void removeMedia(boost::shared_ptr<Track const> const& track,
+                             boost::shared_ptr<Media const> const& media, long long time) = 0;
+    virtual void move(boost::shared_ptr<Track const> const& track,
+                      boost::shared_ptr<Media const> const& media, long long offset) = 0;
+    virtual void trimStart(boost::shared_ptr<Track const> const& track,
+                           boost::shared_ptr<Media const> const& media, long long offset) = 0;
+    virtual void trimEnd(boost::shared_ptr<Track const> const& track,
+                         boost::shared_ptr<Media const> const& media, long long offset) = 0;
+    /// @return the scalar that was really applied
+    virtual double stretch(boost::shared_ptr<Track const> const& track,
+                           boost::shared_ptr<Media const> const& media, double scalar) = 0;
+    /// One direction only, as removeLink() is.
+    virtual void addLink(boost::shared_ptr<Media const> const& media,
+                         boost::shared_ptr<Media const> const& other) = 0;
+    virtual void removeLink(boost::shared_ptr<Media const> const& media,
+                            boost::shared_ptr<Media const> const& other) = 0;
+
+    /// @return the index the effect has now
+    virtual int addEffect(boost::shared_ptr<Effectable const> const& effectable,
+                          boost::shared_ptr<Effect const> const& effect) = 0;
+    virtual void insertEffect(boost::shared_ptr<Effectable const> const& effectable,
+                              boost::shared_ptr<Effect const> const& effect, int index) = 0;
+    virtual void swapEffectOrder(boost::shared_ptr<Effectable const> const& effectable, int index1,
+                                 int index2) = 0;
+    virtual RemovedEffect removeEffect(boost::shared_ptr<Effectable const> const& effectable,
+                                       boost::shared_ptr<Effect const> const& effect) = 0;
+    /// `from` and `to` are times on the owner's local clock.
+    virtual void moveParameterKeyFrame(boost::shared_ptr<Parametric const> const& owner,
+                                       boost::shared_ptr<ParameterInterface const> const& parameter,
+                                       long long from, long long to) = 0;
+
+    virtual boost::shared_ptr<Source> loadSource(std::string const& file) = 0;
+    /// Puts back a source that was unloaded.
+    virtual void loadSource(boost::shared_ptr<Source const> const& source) = 0;
+    virtual void unloadSource(boost::shared_ptr<Source const> const& source) = 0;
+    virtual void addClipping(boost::shared_ptr<Clipping> const& clipping) = 0;
+    virtual void removeClipping(boost::shared_ptr<Clipping> const& clipping) = 0;
+
+    /// Not owned by the caller.
+    virtual EdgeModCommandHandler* edgeModCommandHandler() = 0;
+};
+
+}  // namespace tarn

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "commands/CommandHistoryState.h"
+#include "commands/CommandsFwd.h"
+#include "datatypes/Cloneable.h"
+#include "datatypes/Export.h"
+#include "datatypes/Subject.h"
+#include "datatypes/TarnObject.h"
+#include "datatypes/XMLable.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <cstddef>
+#include <list>
+#include <string>
+
+namespace tarn {
+
+/// The commands that can be undone and redone. Notifies when either changes, except on combining.
+///
+/// Has no lock: a project runs it under its write lock. A command that throws while it is undone or
+/// redone is on neither list afterwards.
+class TARN_API CommandHistory : public TarnObject, public Cloneable, public Subject, public XMLable
+{
+public:
+    /// `handler` is what commands are given; not owned, and empty until the owner sets it.
+    explicit CommandHistory(CommandHandler* handler);
+    ~CommandHistory() override;
+
+    /// The history's XML.
+    std::string description() const override;
+    /// With a copy of every command, and without a handler.
+    CommandHistory* clone() const override;
+
+    void setCommandHandler(CommandHandler* handler) { m_handler = handler; }
+
+    /// Runs a command and records it, which drops what could be redone.
+    /// @return false when the command found nothing to do; nothing has changed then
+    /// @throws TarnMediaLibException for an empty pointer, and what the command throws; it is not
+    ///         recorded then
+    bool execute(boost::shared_ptr<Command> const& command);
+    /// @throws TarnMediaLibException "no commands to undo", and what the command throws
+    void undo();
+    /// Does not apply the undo limit.
+    /// @throws TarnMediaLibException "no commands to redo", and what the command throws
+    void redo();
+    void undoAll();
+    void redoAll();
+    /// Drops what could be redone; does not notify.
+    void dropRedoCommands();
+
+    /// Puts first->combine(second) in the place of the two newest; neither runs. With fewer than
+    /// two it does nothing. Does not notify; unchanged when it throws.
+    void combineLastCommands();
+
+    CommandHistoryState state() const;
+    /// Undoes and drops what was executed since the snapshot.
+    /// @throws ValueException<CommandHistoryState> "State cannot be restored, cannot find undo
+    /// top",
+    ///         once the history's XML has gone to std::cerr; unchanged then
+    void restoreState(CommandHistoryState const& state);
+
+    /// How many commands can be undone at most; negative, as at first, for no limit.
+    int undoLimit() const { return m_undoLimit; }
+    /// Drops the oldest at once that are too many, without undoing them.
+    void setUndoLimit(int limit);
+
+    std::size_t numUndoCommands() const { return m_undoCommands.size(); }
+    std::size_t numRedoCommands() const { return m_redoCommands.size(); }
+
+    void xmlName(XMLable::Options& options) const override;
+    void xmlAttributes(XMLable::Options& options) const override;
+    void xmlBody(XMLable::Options& options, int indent) const override;
+    /// The commands that can be undone, oldest first, each as an element of its own.
+    void xmlOfUndoCommands(XMLable::Options& options, int indent) const;
+
+private:
+    using CommandList = std::list<boost::shared_ptr<Command>>;
+
+    CommandHistory(CommandHistory const& other);
+    CommandHistory& operator=(CommandHistory const&) = delete;
+
+    boost::shared_ptr<Command const> getCurrentUndoStackTop() const;
+    void removeExcessCommands();
+    /// @return false when the list does not hold `top`; nothing has changed then
+    static bool unrollStack(CommandList& commands, boost::shared_ptr<Command const> const& top,
+                            CommandHandler* handler);
+    static void unrollEverything(CommandList& commands, CommandHandler* handler);
+    static void unrollPortion(CommandList& commands, boost::shared_ptr<Command const> const& top,
+                              CommandHandler* handler);
+
+    CommandHandler* m_handler;
+    // The newest last.
+    CommandList m_undoCommands;
+    CommandList m_redoCommands;
+    int m_undoLimit;
+};
+
+}  // namespace tarn

@@ -1,0 +1,12 @@
+#include "commands/CommandObserver.h"
+
+namespace tarn {
+
+void notifyPreCommandObservers(CommandObserver* observer)
+{
+    if (observer) {
+        observer->onPreCommand();
+    }
+}
+
+}  // namespace tarn

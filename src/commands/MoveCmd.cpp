@@ -1,0 +1,51 @@
+#include "commands/MoveCmd.h"
+
+#include "commands/CommandHandler.h"
+#include "datatypes/SaturatedArithmetic.h"
+#include "timeline/Media.h"
+#include "timeline/Track.h"
+
+#include <ostream>
+
+namespace tarn {
+
+MoveCmd::MoveCmd(boost::shared_ptr<Track const> const& track,
+                 boost::shared_ptr<Media const> const& media, long long offset)
+    : AtomicEditCmd(track, media, offset)
+{}
+
+boost::shared_ptr<MoveCmd> MoveCmd::create(boost::shared_ptr<Track const> const& track,
+                                           boost::shared_ptr<Media const> const& media,
+                                           long long offset)
+{
+    return boost::shared_ptr<MoveCmd>(new MoveCmd(track, media, offset));
+}
+
+MoveCmd* MoveCmd::clone() const
+{
+    return new MoveCmd(*this);
+}
+
+bool MoveCmd::execute(CommandHandler* handler)
+{
+    handler->move(track(), media(), offset());
+    return true;
+}
+
+bool MoveCmd::unexecute(CommandHandler* handler)
+{
+    handler->move(track(), media(), saturatedDifference(0, offset()));
+    return true;
+}
+
+boost::shared_ptr<Command> MoveCmd::combine(boost::shared_ptr<Command> const& next)
+{
+    return combineAtomicEdit<MoveCmd>(next);
+}
+
+void MoveCmd::xmlName(XMLable::Options& options) const
+{
+    *options.stream << "MoveCmd";
+}
+
+}  // namespace tarn

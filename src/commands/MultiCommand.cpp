@@ -1,0 +1,55 @@
+#include "commands/MultiCommand.h"
+
+#include "commands/CommandHistory.h"
+
+namespace tarn {
+
+MultiCommand::MultiCommand() : m_history(new CommandHistory(nullptr)) {}
+
+MultiCommand::MultiCommand(MultiCommand const& other)
+    : XMLIdentified(other), Command(other), m_history(new CommandHistory(nullptr))
+{}
+
+bool MultiCommand::execute(CommandHandler* handler)
+{
+    m_history->setCommandHandler(handler);
+    m_history->dropRedoCommands();
+    try {
+        executeCommands(handler);
+    } catch (...) {
+        m_history->undoAll();
+        throw;
+    }
+    return true;
+}
+
+bool MultiCommand::unexecute(CommandHandler* handler)
+{
+    m_history->setCommandHandler(handler);
+    m_history->undoAll();
+    return true;
+}
+
+bool MultiCommand::reexecute(CommandHandler* handler)
+{
+    m_history->setCommandHandler(handler);
+    m_history->redoAll();
+    return true;
+}
+
+bool MultiCommand::execute(boost::shared_ptr<Command> const& command)
+{
+    return m_history->execute(command);
+}
+
+std::size_t MultiCommand::numUndoCommands() const
+{
+    return m_history->numUndoCommands();
+}
+
+void MultiCommand::xmlOfCommands(XMLable::Options& options, int indent) const
+{
+    m_history->xmlOfUndoCommands(options, indent);
+}
+
+}  // namespace tarn

@@ -1,0 +1,51 @@
+#include "commands/TrimEndCmd.h"
+
+#include "commands/CommandHandler.h"
+#include "datatypes/SaturatedArithmetic.h"
+#include "timeline/Media.h"
+#include "timeline/Track.h"
+
+#include <ostream>
+
+namespace tarn {
+
+TrimEndCmd::TrimEndCmd(boost::shared_ptr<Track const> const& track,
+                       boost::shared_ptr<Media const> const& media, long long offset)
+    : AtomicEditCmd(track, media, offset)
+{}
+
+boost::shared_ptr<TrimEndCmd> TrimEndCmd::create(boost::shared_ptr<Track const> const& track,
+                                                 boost::shared_ptr<Media const> const& media,
+                                                 long long offset)
+{
+    return boost::shared_ptr<TrimEndCmd>(new TrimEndCmd(track, media, offset));
+}
+
+TrimEndCmd* TrimEndCmd::clone() const
+{
+    return new TrimEndCmd(*this);
+}
+
+bool TrimEndCmd::execute(CommandHandler* handler)
+{
+    handler->trimEnd(track(), media(), offset());
+    return true;
+}
+
+bool TrimEndCmd::unexecute(CommandHandler* handler)
+{
+    handler->trimEnd(track(), media(), saturatedDifference(0, offset()));
+    return true;
+}
+
+boost::shared_ptr<Command> TrimEndCmd::combine(boost::shared_ptr<Command> const& next)
+{
+    return combineAtomicEdit<TrimEndCmd>(next);
+}
+
+void TrimEndCmd::xmlName(XMLable::Options& options) const
+{
+    *options.stream << "TrimEndCmd";
+}
+
+}  // namespace tarn

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "commands/AtomicEditCmd.h"
+
+namespace tarn {
+
+///     before   A1: aaaaaa / V1: aaaaaa
+///     after    A1: aaaa.. / V1: aaaa..      by +20
+///
+/// Moves the end of a media and of those linked to it, while the start stays. A positive offset
+/// shortens.
+/// @throws CollisionException on execution with the medias in the way
+/// @throws ValueException<long long> on execution for an offset beyond what the source offers
+/// @throws LinkException on execution when the track ranges of linked medias differ
+class TARN_API TrimEndCmd : public AtomicEditCmd
+{
+public:
+    /// `offset` is relative, in edit units on the track's clock.
+    static boost::shared_ptr<TrimEndCmd> create(boost::shared_ptr<Track const> const& track,
+                                                boost::shared_ptr<Media const> const& media,
+                                                long long offset);
+
+    TrimEndCmd* clone() const override;
+    bool execute(CommandHandler* handler) override;
+    bool unexecute(CommandHandler* handler) override;
+    /// Adds up the offsets of two on the same track and media.
+    boost::shared_ptr<Command> combine(boost::shared_ptr<Command> const& next) override;
+
+    void xmlName(XMLable::Options& options) const override;
+
+private:
+    TrimEndCmd(boost::shared_ptr<Track const> const& track,
+               boost::shared_ptr<Media const> const& media, long long offset);
+};
+
+}  // namespace tarn

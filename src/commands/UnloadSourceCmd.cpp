@@ -1,0 +1,48 @@
+#include "commands/UnloadSourceCmd.h"
+
+#include "clipbin/MediaFileStats.h"
+#include "clipbin/Source.h"
+#include "commands/CommandHandler.h"
+#include "commands/SourceXml.h"
+
+#include <ostream>
+
+namespace tarn {
+
+UnloadSourceCmd::UnloadSourceCmd(boost::shared_ptr<Source const> const& source) : m_source(source)
+{}
+
+boost::shared_ptr<UnloadSourceCmd> UnloadSourceCmd::create(
+    boost::shared_ptr<Source const> const& source)
+{
+    return boost::shared_ptr<UnloadSourceCmd>(new UnloadSourceCmd(source));
+}
+
+UnloadSourceCmd* UnloadSourceCmd::clone() const
+{
+    return new UnloadSourceCmd(*this);
+}
+
+bool UnloadSourceCmd::execute(CommandHandler* handler)
+{
+    handler->unloadSource(m_source);
+    return true;
+}
+
+bool UnloadSourceCmd::unexecute(CommandHandler* handler)
+{
+    handler->loadSource(m_source);
+    return true;
+}
+
+void UnloadSourceCmd::xmlName(XMLable::Options& options) const
+{
+    *options.stream << "UnloadSourceCmd";
+}
+
+void UnloadSourceCmd::xmlBody(XMLable::Options& options, int indent) const
+{
+    xmlOfSourceFile(options, indent, m_source->mediaFileStats()->filename(), m_source);
+}
+
+}  // namespace tarn

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "datatypes/Export.h"
+#include "datatypes/TarnObject.h"
+
+#include <mutex>
+#include <vector>
+
+namespace tarn {
+
+/// The source of the numbers by which XML names objects: from 0 up, the last retired one first.
+///
+/// One for the process, never freed, since objects of a host may outlive everything else. Callers
+/// are to make the first call on one thread; later ones are safe, for reading threads copy and
+/// destroy objects too.
+class TARN_API IdentManager : public TarnObject
+{
+public:
+    static IdentManager* instance();
+
+    IdentManager(IdentManager const&) = delete;
+    IdentManager& operator=(IdentManager const&) = delete;
+
+    unsigned int newIdent();
+    /// Gives back an ident that newIdent() gave out.
+    void retireIdent(unsigned int ident);
+
+    std::string description() const override;
+
+private:
+    IdentManager() = default;
+    ~IdentManager() = default;
+
+    unsigned int m_nextIdent = 0;
+    std::vector<unsigned int> m_retiredIdents;
+    std::mutex m_mutex;
+};
+
+}  // namespace tarn

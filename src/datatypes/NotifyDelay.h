@@ -1,0 +1,42 @@
+#pragma once
+
+#include "datatypes/DatatypesFwd.h"
+#include "datatypes/Export.h"
+#include "datatypes/TarnObject.h"
+
+namespace tarn {
+
+/// While one is open, no subject of the process reaches its observers; when the outermost closes,
+/// each held notification goes out in order of arrival, duplicates and all.
+///
+/// Edits come from one thread at a time, and with them delays. The queue has its own lock, never
+/// held while anyone is called, since reading threads destroy subjects as well.
+class TARN_API NotifyDelay : public TarnObject
+{
+public:
+    NotifyDelay();
+    NotifyDelay(NotifyDelay const&) = delete;
+    NotifyDelay& operator=(NotifyDelay const&) = delete;
+    /// Runs host code.
+    /// @throws the first exception of an observer, once every notification is out; it is dropped
+    ///         when the stack is unwinding already
+    ~NotifyDelay() noexcept(false);
+
+    std::string description() const override;
+
+    static bool isActive();
+    static void addObservable(Observable const* observable);
+    static void addObservable(Subject const* subject);
+    /// Drops every entry of what dies, the one being told included.
+    static void removeObservable(Observable const* observable);
+    /// Detaches what dies from every subject that waits or is being told.
+    static void removeObserver(Observer* observer);
+
+private:
+    struct Queue;
+
+    static Queue& queue();
+    static void deliver();
+};
+
+}  // namespace tarn

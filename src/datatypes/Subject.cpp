@@ -1,0 +1,66 @@
+#include "datatypes/Subject.h"
+
+#include "datatypes/NotifyDelay.h"
+
+namespace tarn {
+
+Subject::NotifyDisabler::NotifyDisabler(Subject* subject) : m_subject(subject)
+{
+    ++m_subject->m_disableCount;
+}
+
+Subject::NotifyDisabler::NotifyDisabler(NotifyDisabler const& other)
+    : NotifyDisabler(other.m_subject)
+{}
+
+Subject::NotifyDisabler::~NotifyDisabler()
+{
+    --m_subject->m_disableCount;
+}
+
+Subject::Subject() : m_disableCount(0), m_queueCount(0) {}
+
+Subject::Subject(Subject const&) : Subject() {}
+
+Subject& Subject::operator=(Subject const&)
+{
+    return *this;
+}
+
+Subject::~Subject()
+{
+    if (m_queueCount != 0) {
+        NotifyDelay::removeObservable(this);
+    }
+}
+
+void Subject::attach(Observer* observer) const
+{
+    if (!m_observers) {
+        m_observers = std::make_unique<ObserverList>();
+    }
+    m_observers->attach(observer);
+}
+
+void Subject::detach(Observer* observer) const
+{
+    if (m_observers && m_observers->isAttached(observer)) {
+        m_observers->detach(observer);
+    }
+}
+
+void Subject::notify() const
+{
+    if (m_disableCount > 0) {
+        return;
+    }
+    if (NotifyDelay::isActive()) {
+        NotifyDelay::addObservable(this);
+        return;
+    }
+    if (m_observers) {
+        m_observers->notify();
+    }
+}
+
+}  // namespace tarn

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "datatypes/Export.h"
+#include "datatypes/TransformMatrix.h"
+#include "datatypes/XMLable.h"
+#include "parameters/ParametersFwd.h"
+#include "project/ProjectFwd.h"
+
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+namespace tarn {
+
+/// An animated placement in space, mixed into what is seen: mixer, tracks and medias.
+///
+/// Starts as no placement at all: every component has one key frame, at time 0. Times are in the
+/// local clock of the `Parametric` that owns it, in edit units. Values are read under the
+/// parameters' own read locks.
+class TARN_API Transformer
+{
+public:
+    explicit Transformer(boost::weak_ptr<ThreadSafe const> const& project);
+    /// Parameters of the copy are its own.
+    Transformer(Transformer const& other);
+    Transformer& operator=(Transformer const& other) = delete;
+    virtual ~Transformer();
+
+    boost::shared_ptr<VectorParam> translation() { return m_translation; }
+    boost::shared_ptr<VectorParam const> translation() const { return m_translation; }
+    /// Radians around x, y and z.
+    boost::shared_ptr<VectorParam> rotation() { return m_rotation; }
+    boost::shared_ptr<VectorParam const> rotation() const { return m_rotation; }
+    /// Radians along x and y.
+    boost::shared_ptr<VectorParam> shear() { return m_shear; }
+    boost::shared_ptr<VectorParam const> shear() const { return m_shear; }
+    boost::shared_ptr<VectorParam> scale() { return m_scale; }
+    boost::shared_ptr<VectorParam const> scale() const { return m_scale; }
+    /// The point that rotation and scale leave where it is, before translation.
+    boost::shared_ptr<VectorParam> anchor() { return m_anchor; }
+    boost::shared_ptr<VectorParam const> anchor() const { return m_anchor; }
+
+    /// With the values that `owner` makes of the parameters, edge modifications included.
+    TransformMatrix calcTransformAtTime(Parametric const* owner, long long time) const;
+    /// With three numbers in place of the animated scale.
+    TransformMatrix calcTransformAtTimeWithScale(Parametric const* owner, long long time,
+                                                 double const* scale) const;
+    /// With three numbers in place of the animated translation.
+    TransformMatrix calcTransformAtTimeWithTranslation(Parametric const* owner, long long time,
+                                                       double const* translation) const;
+
+    /// Writes an element without an identity number around the five vectors.
+    void genXMLForTransformer(XMLable::Options& options, int indent) const;
+
+    /// Appends translation, rotation, shear, scale and anchor, component by component.
+    static void addTransformerParametersToParameters(
+        Transformer const* transformer,
+        MTVector<boost::shared_ptr<ParameterInterface const>>* parameters);
+
+private:
+    boost::shared_ptr<VectorParam> m_translation;
+    boost::shared_ptr<VectorParam> m_rotation;
+    boost::shared_ptr<VectorParam> m_shear;
+    boost::shared_ptr<VectorParam> m_scale;
+    boost::shared_ptr<VectorParam> m_anchor;
+};
+
+}  // namespace tarn

@@ -1,0 +1,21 @@
+#include "datatypes/XMLIdentified.h"
+
+#include "datatypes/IdentManager.h"
+
+namespace tarn {
+
+XMLIdentified::XMLIdentified() : m_xmlIdent(IdentManager::instance()->newIdent()) {}
+
+XMLIdentified::XMLIdentified(XMLIdentified const&) : XMLIdentified() {}
+
+XMLIdentified& XMLIdentified::operator=(XMLIdentified const&)
+{
+    return *this;
+}
+
+XMLIdentified::~XMLIdentified()
+{
+    IdentManager::instance()->retireIdent(m_xmlIdent);
+}
+
+}  // namespace tarn

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "datatypes/Export.h"
+#include "edgemods/EdgeModsFwd.h"
+#include "parameters/ParametersFwd.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <memory>
+
+namespace tarn {
+
+/// A function bound to the one parameter object that it bends. A value: every copy has its own
+/// clone of the function.
+class TARN_API EdgeModification
+{
+public:
+    /// No parameter, and a fade-in.
+    EdgeModification();
+    EdgeModification(boost::shared_ptr<Parameter<double> const> const& parameter,
+                     EdgeModFunc const& func);
+    EdgeModification(EdgeModification const& other);
+    EdgeModification& operator=(EdgeModification const& other);
+    ~EdgeModification();
+
+    /// May be null, which no parameter matches.
+    boost::shared_ptr<Parameter<double> const> parameter() const { return m_parameter; }
+    EdgeModFunc const& func() const { return *m_func; }
+
+    /// What the function makes of the stored value.
+    /// @param time on the clock of the key frames
+    /// @throws TarnMediaLibException without a parameter, KeyFrameException(0) without a key frame
+    double execute(double position, long long time) const;
+
+private:
+    boost::shared_ptr<Parameter<double> const> m_parameter;
+    std::unique_ptr<EdgeModFunc> m_func;
+};
+
+}  // namespace tarn

@@ -1,0 +1,9 @@
+#include "exceptions/IOException.h"
+
+namespace tarn {
+
+IOException::IOException(std::string const& message)
+    : TarnMediaLibException("IOException: " + message)
+{}
+
+}  // namespace tarn

@@ -1,0 +1,7 @@
+#include "parameters/Attributable.h"
+
+namespace tarn {
+
+Attributable::~Attributable() {}
+
+}  // namespace tarn

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "datatypes/Export.h"
+
+namespace tarn {
+
+/// What owns attributes.
+class TARN_API Attributable
+{
+public:
+    virtual ~Attributable();
+
+    virtual int numAttributes() const = 0;
+
+protected:
+    Attributable() = default;
+    Attributable(Attributable const&) = default;
+    Attributable& operator=(Attributable const&) = default;
+};
+
+}  // namespace tarn

@@ -1,0 +1,85 @@
+#include "parameters/Attribute.h"
+
+#include "datatypes/XmlRepresentation.h"
+#include "project/ReadWriteMutex.h"
+
+#include <ostream>
+
+namespace tarn {
+
+namespace {
+
+template <class T>
+T const& printable(T const& value)
+{
+    return value;
+}
+
+std::string printable(std::string const& value)
+{
+    return xml_representation(value);
+}
+
+}  // namespace
+
+template <class T>
+Attribute<T>::Attribute(T const& value, boost::weak_ptr<ThreadSafe const> const& project)
+    : SubProject(project), m_value(value)
+{}
+
+template <class T>
+Attribute<T>::Attribute(Attribute const& other)
+    : XMLIdentified(other)
+    , SubProject(other)
+    , Cloneable(other)
+    , XMLable(other)
+    , Subject(other)
+    , m_value(other.m_value)
+{}
+
+template <class T>
+T Attribute<T>::value() const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return m_value;
+}
+
+template <class T>
+void Attribute<T>::setValue(T const& value)
+{
+    m_value = value;
+    notify();
+}
+
+template <class T>
+Attribute<T>* Attribute<T>::clone() const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return new Attribute(*this);
+}
+
+template <class T>
+void Attribute<T>::xmlName(XMLable::Options& options) const
+{
+    *options.stream << "Attribute";
+}
+
+template <class T>
+void Attribute<T>::xmlAttributes(XMLable::Options& options) const
+{
+    *options.stream << "value=\"" << printable(m_value) << '"';
+}
+
+template <class T>
+void Attribute<T>::xmlBody(XMLable::Options&, int) const
+{}
+
+template class Attribute<float>;
+template class Attribute<double>;
+template class Attribute<unsigned int>;
+template class Attribute<std::string>;
+template class Attribute<Point>;
+template class Attribute<Rect<float>>;
+template class Attribute<boost::shared_ptr<ScreenMetaData const>>;
+
+}  // namespace tarn

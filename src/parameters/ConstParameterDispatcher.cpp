@@ -1,0 +1,7 @@
+#include "parameters/ConstParameterDispatcher.h"
+
+namespace tarn {
+
+ConstParameterDispatcher::~ConstParameterDispatcher() {}
+
+}  // namespace tarn

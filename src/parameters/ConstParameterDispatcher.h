@@ -1,0 +1,43 @@
+#pragma once
+
+#include "parameters/ParameterTypes.h"
+
+namespace tarn {
+
+/// Learns the type of a parameter that it may only read. The host implements it; the library only
+/// calls it.
+class TARN_API ConstParameterDispatcher
+{
+public:
+    virtual ~ConstParameterDispatcher();
+
+    using InterpolaterOfFloat = boost::shared_ptr<Interpolater<float>>;
+    using InterpolaterOfDouble = boost::shared_ptr<Interpolater<double>>;
+    using InterpolaterOfPoint = boost::shared_ptr<Interpolater<Point>>;
+    using InterpolaterOfMatrix = boost::shared_ptr<Interpolater<TransformMatrix>>;
+    using InterpolaterOfPosition = boost::shared_ptr<Interpolater<AudioPosition>>;
+
+    virtual void dispatch(boost::shared_ptr<InterpolatingParam<float> const> const& parameter) = 0;
+    virtual void dispatch(boost::shared_ptr<InterpolatingParam<double> const> const& parameter) = 0;
+    virtual void dispatch(boost::shared_ptr<InterpolatingParam<Point> const> const& parameter) = 0;
+    virtual void dispatch(
+        boost::shared_ptr<InterpolatingParam<TransformMatrix> const> const& parameter) = 0;
+    virtual void dispatch(
+        boost::shared_ptr<InterpolatingParam<AudioPosition> const> const& parameter) = 0;
+    virtual void dispatch(boost::shared_ptr<LeftParameter<Color> const> const& parameter) = 0;
+    virtual void dispatch(boost::shared_ptr<LeftParameter<std::string> const> const& parameter) = 0;
+    virtual void dispatch(
+        boost::shared_ptr<LeftParameter<boost::shared_ptr<IMFile>> const> const& parameter) = 0;
+    virtual void dispatch(
+        boost::shared_ptr<LeftParameter<InterpolaterOfFloat> const> const& parameter) = 0;
+    virtual void dispatch(
+        boost::shared_ptr<LeftParameter<InterpolaterOfDouble> const> const& parameter) = 0;
+    virtual void dispatch(
+        boost::shared_ptr<LeftParameter<InterpolaterOfPoint> const> const& parameter) = 0;
+    virtual void dispatch(
+        boost::shared_ptr<LeftParameter<InterpolaterOfMatrix> const> const& parameter) = 0;
+    virtual void dispatch(
+        boost::shared_ptr<LeftParameter<InterpolaterOfPosition> const> const& parameter) = 0;
+};
+
+}  // namespace tarn

@@ -1,0 +1,7 @@
+#include "parameters/ParameterDispatcher.h"
+
+namespace tarn {
+
+ParameterDispatcher::~ParameterDispatcher() {}
+
+}  // namespace tarn

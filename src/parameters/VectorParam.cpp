@@ -1,0 +1,66 @@
+#include "parameters/VectorParam.h"
+
+#include "parameters/Attribute.h"
+#include "parameters/InterpolatingParam.h"
+#include "project/ReadWriteMutex.h"
+
+#include <ostream>
+
+namespace tarn {
+
+VectorParam::VectorParam(boost::weak_ptr<ThreadSafe const> const& project, int count,
+                         std::string const& name)
+    : SubProject(project), Identified(project)
+{
+    identAttribute()->setValue(name);
+    for (int i = 0; i < count; ++i) {
+        m_dimensions.push_back(boost::shared_ptr<InterpolatingParam<double>>(
+            new InterpolatingParam<double>(project, name + std::to_string(i))));
+    }
+}
+
+VectorParam::VectorParam(VectorParam const& other)
+    : XMLIdentified(other), SubProject(other), XMLable(other), Cloneable(other), Identified(other)
+{
+    for (boost::shared_ptr<InterpolatingParam<double>> const& dimension : other.m_dimensions) {
+        m_dimensions.push_back(boost::shared_ptr<InterpolatingParam<double>>(dimension->clone()));
+    }
+}
+
+VectorParam::~VectorParam() {}
+
+int VectorParam::numDimensions() const
+{
+    return static_cast<int>(m_dimensions.size());
+}
+
+boost::shared_ptr<InterpolatingParam<double>> VectorParam::at(int index)
+{
+    return m_dimensions[static_cast<std::size_t>(index)];
+}
+
+boost::shared_ptr<InterpolatingParam<double> const> VectorParam::at(int index) const
+{
+    return m_dimensions[static_cast<std::size_t>(index)];
+}
+
+VectorParam* VectorParam::clone() const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return new VectorParam(*this);
+}
+
+void VectorParam::xmlName(XMLable::Options& options) const
+{
+    *options.stream << "VectorParam";
+}
+
+void VectorParam::xmlAttributes(XMLable::Options&) const {}
+
+void VectorParam::xmlBody(XMLable::Options& options, int indent) const
+{
+    for (boost::shared_ptr<InterpolatingParam<double>> const& dimension : m_dimensions)
+        dimension->toXML(options, indent, "");
+}
+
+}  // namespace tarn

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "datatypes/Export.h"
+#include "timeline/TimelineFwd.h"
+
+#include <boost/shared_ptr.hpp>
+
+namespace tarn {
+
+/// Receives a media as what it is, without the right to change it.
+class TARN_API ConstMediaDispatcher
+{
+public:
+    virtual ~ConstMediaDispatcher() = default;
+
+    virtual void dispatchMedia(boost::shared_ptr<VMFile const> const& media) = 0;
+    virtual void dispatchMedia(boost::shared_ptr<AMFile const> const& media) = 0;
+    virtual void dispatchMedia(boost::shared_ptr<IMFile const> const& media) = 0;
+    virtual void dispatchMedia(boost::shared_ptr<ImageTransition const> const& media) = 0;
+    virtual void dispatchMedia(boost::shared_ptr<AudioTransition const> const& media) = 0;
+    virtual void dispatchMedia(boost::shared_ptr<TextBox const> const& media) = 0;
+    virtual void dispatchMedia(boost::shared_ptr<Callout const> const& media) = 0;
+};
+
+}  // namespace tarn

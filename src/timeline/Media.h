@@ -1,0 +1,102 @@
+#pragma once
+
+#include "clipbin/ClipBinFwd.h"
+#include "datatypes/DecoratedCloneable.h"
+#include "datatypes/Range.h"
+#include "edgemods/EdgeModifiable.h"
+#include "project/ConstIterator.h"
+#include "timeline/SubTimeline.h"
+#include "timeline/TimelineFwd.h"
+
+#include <boost/enable_shared_from_this.hpp>
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+#include <list>
+
+namespace tarn {
+
+/// One item on a track: a stretch of source material placed on the timeline.
+///
+/// It has two clocks: the track's, in whole edit units, and its source's, in media units, on which
+/// its key frames lie. All ranges are half-open. Linked medias form a full mesh of weak pointers.
+/// Queries take the read lock themselves; edits need the write lock. While a media lies on a track
+/// it may be edited through that track alone, because its start is the key there.
+class TARN_API Media : public SubTimeline,
+                       public DecoratedCloneable<Media>,
+                       public boost::enable_shared_from_this<Media>,
+                       public EdgeModifiable
+{
+public:
+    using LinkList = std::list<boost::weak_ptr<Media>>;
+
+    explicit Media(boost::weak_ptr<ThreadSafe const> const& project);
+
+    virtual void receiveDispatcher(ConstMediaDispatcher* dispatcher) const = 0;
+    virtual void receiveDispatcher(MediaDispatcher* dispatcher) = 0;
+
+    /// Does not notify.
+    virtual void setParentTrack(boost::weak_ptr<Track> const& track) = 0;
+    /// Empty while the media lies on no track.
+    virtual boost::weak_ptr<Track> parentTrack() = 0;
+    virtual boost::weak_ptr<Track const> parentTrack() const = 0;
+
+    /// Joins the two medias' groups into one mesh, whatever their ranges; what is linked already
+    /// stays so. Does not notify.
+    /// @throws DanglingWeakPtrException<Media const> when a link has died
+    virtual void link(boost::shared_ptr<Media> const& other) = 0;
+    /// Appends `other` to this media's links only.
+    /// @throws TarnMediaLibException "unable to link media" unless isLinkableWith(other)
+    virtual void addLink(boost::shared_ptr<Media> const& other) = 0;
+    /// Takes `other` out of this media's links only.
+    /// @throws TarnMediaLibException for itself, for what is not linked, for unequal track ranges
+    virtual void removeLink(boost::shared_ptr<Media> const& other) = 0;
+    virtual bool isLinkedWith(boost::shared_ptr<Media const> const& other) const = 0;
+    /// In order of linking. The const forms hold a read lock for their life.
+    virtual ConstIterator<LinkList> linkBegin() const = 0;
+    virtual LinkList::iterator linkBegin() = 0;
+    virtual ConstIterator<LinkList> linkEnd() const = 0;
+    virtual LinkList::iterator linkEnd() = 0;
+    /// Another media, not linked yet, of exactly equal track and media ranges.
+    virtual bool isLinkableWith(boost::shared_ptr<Media const> const& other) const = 0;
+
+    /// The track range that a stretch would give, predicted from the present length.
+    virtual Range<long long> trackRangeWithStretch(double scalar) const = 0;
+    /// Media units on the source's clock. A reference into the media: stay under a lock.
+    virtual Range<double> const& mediaRange() const = 0;
+    /// Edit units on the track's clock. A reference into the media: stay under a lock.
+    virtual Range<long long> const& trackRange() const = 0;
+    /// Track duration over media duration; 1.0 is natural speed.
+    virtual double scalar() const = 0;
+    /// The most negative offsets that trims may take, edit units.
+    virtual long long trimEndLimit() const = 0;
+    virtual long long trimStartLimit() const = 0;
+    /// Whether this media shows that source.
+    virtual bool isInstanceOf(boost::shared_ptr<Source const> const& source) const = 0;
+
+    Media* clone() const override = 0;
+
+    /// Offsets are relative, in edit units; a positive trim shortens. What throws changed nothing.
+    virtual void move(long long offset) = 0;
+    virtual void trimStart(long long offset) = 0;
+    virtual bool validTrimStart(long long offset) = 0;
+    virtual void trimEnd(long long offset) = 0;
+    virtual bool validTrimEnd(long long offset) = 0;
+    virtual void setTrackStart(long long time) = 0;
+    /// @return the scalar that a whole duration allowed
+    virtual double stretch(double scalar) = 0;
+
+    virtual MediaEditor& mediaEditor() = 0;
+    virtual MediaEditor const& mediaEditor() const = 0;
+
+    /// The track ranges that edits would give.
+    Range<long long> trackRangeWithMove(long long offset) const;
+    Range<long long> trackRangeWithTrimStart(long long offset) const;
+    Range<long long> trackRangeWithTrimEnd(long long offset) const;
+
+protected:
+    Media(Media const& other);
+    Media& operator=(Media const& other) = delete;
+};
+
+}  // namespace tarn

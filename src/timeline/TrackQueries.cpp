@@ -1,0 +1,353 @@
+#include "timeline/Track.h"
+
+#include "datatypes/Range.h"
+#include "datatypes/SaturatedArithmetic.h"
+#include "exceptions/CollisionException.h"
+#include "exceptions/DanglingWeakPtrException.h"
+#include "exceptions/LinkException.h"
+#include "exceptions/ValueException.h"
+#include "project/ReadWriteMutex.h"
+#include "timeline/AudioMedia.h"
+#include "timeline/AudioTrack.h"
+#include "timeline/ImageMedia.h"
+#include "timeline/ImageTrack.h"
+#include "timeline/Media.h"
+#include "timeline/Transition.h"
+#include "timeline/VisualMedia.h"
+#include "timeline/VisualTrack.h"
+
+#include <boost/make_shared.hpp>
+
+#include <algorithm>
+#include <iterator>
+
+// What a track answers: which media lies where, what touches it, what would be in its way.
+
+namespace tarn {
+
+namespace {
+
+long long endOf(boost::shared_ptr<Media> const& media)
+{
+    return media->endTime();
+}
+
+/// The last media that starts at or before `time`, or the first of all. The map is not empty.
+Track::MediaMap::const_iterator lastStartingBy(Track::MediaMap const& medias, long long time)
+{
+    Track::MediaMap::const_iterator const after = medias.upper_bound(time);
+    return after == medias.begin() ? after : std::prev(after);
+}
+
+/// Shows the medias that share an edit unit with `range` to `visit`, in time order, for as long as
+/// it returns true.
+template <class Visit>
+void visitIntersecting(Track::MediaMap const& medias, Range<long long> const& range, Visit visit)
+{
+    // A trim is probed before it is refused, so a range may come here turned inside out.
+    if (range.duration <= 0 || medias.empty()) {
+        return;
+    }
+    Track::MediaMap::const_iterator const last =
+        medias.upper_bound(saturatedSum(range.start, range.duration));
+    for (auto entry = lastStartingBy(medias, range.start); entry != last; ++entry) {
+        boost::shared_ptr<Media> const& media = entry->second;
+        if (media->trackRange().intersection(range).duration > 0 && !visit(media)) {
+            return;
+        }
+    }
+}
+
+template <class List, class IsExcluded>
+boost::shared_ptr<List> intersecting(Track::MediaMap const& medias, Range<long long> const& range,
+                                     IsExcluded isExcluded)
+{
+    boost::shared_ptr<List> const result = boost::make_shared<List>();
+    visitIntersecting(medias, range, [&](boost::shared_ptr<Media> const& media) {
+        if (!isExcluded(media)) {
+            result->push_back(media);
+        }
+        return true;
+    });
+    return result;
+}
+
+template <class M>
+Pair<boost::shared_ptr<M>> mediaAround(Track::MediaMap const& medias, long long time)
+{
+    Pair<boost::shared_ptr<M>> result;
+    if (medias.empty()) {
+        return result;
+    }
+    Track::MediaMap::const_iterator const entry = lastStartingBy(medias, time);
+    boost::shared_ptr<Media> const& media = entry->second;
+    Range<long long> const range = media->trackRange();
+    long long const end = saturatedSum(range.start, range.duration);
+    if (range.start < time && time < end) {
+        result = Pair<boost::shared_ptr<M>>(media, media);
+    } else if (time == range.start) {
+        result.second = media;
+        if (entry != medias.begin() && endOf(std::prev(entry)->second) == time) {
+            result.first = std::prev(entry)->second;
+        }
+    } else if (time == end) {
+        result.first = media;
+        Track::MediaMap::const_iterator const next = std::next(entry);
+        if (next != medias.end() && next->second->startTime() == time) {
+            result.second = next->second;
+        }
+    }
+    return result;
+}
+
+/// The media that ends where `media` starts, on the track that `media` is on.
+boost::shared_ptr<Media const> leftNeighbour(boost::shared_ptr<Media const> const& media)
+{
+    boost::shared_ptr<Track const> const track = media->parentTrack().lock();
+    if (!track) {
+        return boost::shared_ptr<Media const>();
+    }
+    long long const start = media->startTime();
+    Track::MediaMap::const_iterator const entry = track->medias().lower_bound(start);
+    if (entry == track->medias().begin() || endOf(std::prev(entry)->second) != start) {
+        return boost::shared_ptr<Media const>();
+    }
+    return std::prev(entry)->second;
+}
+
+/// The media that starts where `media` ends, on the track that `media` is on.
+boost::shared_ptr<Media const> rightNeighbour(boost::shared_ptr<Media const> const& media)
+{
+    boost::shared_ptr<Track const> const track = media->parentTrack().lock();
+    if (!track) {
+        return boost::shared_ptr<Media const>();
+    }
+    Track::MediaMap::const_iterator const entry = track->medias().upper_bound(media->startTime());
+    if (entry == track->medias().end() || entry->second->startTime() != media->endTime()) {
+        return boost::shared_ptr<Media const>();
+    }
+    return entry->second;
+}
+
+bool sameRange(Range<long long> const& a, Range<long long> const& b)
+{
+    return a.start == b.start && a.duration == b.duration;
+}
+
+}  // namespace
+
+boost::shared_ptr<Media> Track::findMedia(boost::shared_ptr<Media const> const& media)
+{
+    Track const& self = *this;
+    return boost::const_pointer_cast<Media>(self.findMedia(media));
+}
+
+boost::shared_ptr<Media const> Track::findMedia(boost::shared_ptr<Media const> const& media) const
+{
+    if (!media) {
+        return boost::shared_ptr<Media const>();
+    }
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    MediaMap::const_iterator const entry = medias().find(media->startTime());
+    return entry != medias().end() && entry->second == media ? entry->second
+                                                             : boost::shared_ptr<Media const>();
+}
+
+bool Track::hasMedia(boost::shared_ptr<Media const> const& media) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return findMedia(media) != nullptr;
+}
+
+Pair<boost::shared_ptr<Media>> Track::mediaAtTime(long long time)
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return mediaAround<Media>(medias(), time);
+}
+
+Pair<boost::shared_ptr<Media const>> Track::mediaAtTime(long long time) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return mediaAround<Media const>(medias(), time);
+}
+
+boost::shared_ptr<ConstMediaList> Track::mediasIntersectingRange(
+    Range<long long> const& range, ConstMediaSet const& excluded) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return intersecting<ConstMediaList>(
+        medias(), range,
+        [&](boost::shared_ptr<Media> const& media) { return excluded.count(media) > 0; });
+}
+
+boost::shared_ptr<ConstMediaList> Track::mediasIntersectingRange(
+    Range<long long> const& range, ConstMediaList const& excluded) const
+{
+    return mediasIntersectingRange(range, ConstMediaSet(excluded.begin(), excluded.end()));
+}
+
+boost::shared_ptr<ConstMediaList> Track::mediasIntersectingRange(
+    Range<long long> const& range, boost::shared_ptr<Media const> const& excluded) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return intersecting<ConstMediaList>(
+        medias(), range, [&](boost::shared_ptr<Media> const& media) { return media == excluded; });
+}
+
+boost::shared_ptr<MediaList> Track::mediasIntersectingRange(
+    Range<long long> const& range, boost::shared_ptr<Media const> const& excluded)
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return intersecting<MediaList>(
+        medias(), range, [&](boost::shared_ptr<Media> const& media) { return media == excluded; });
+}
+
+bool Track::intersectionAtRange(Range<long long> const& range) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    bool found = false;
+    visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const&) {
+        found = true;
+        return false;
+    });
+    return found;
+}
+
+boost::shared_ptr<ConstMediaList> Track::collidingMedia(boost::shared_ptr<Media const> const& media,
+                                                        Range<long long> const& range,
+                                                        bool includeLinks) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    boost::shared_ptr<ConstMediaList> const result = mediasIntersectingRange(range, media);
+    if (!includeLinks) {
+        return result;
+    }
+    for (auto link = media->linkBegin(); link != media->linkEnd(); ++link) {
+        auto const linked = lockMediaAndTrack<Media const, Track const>(*link);
+        if (!sameRange(media->trackRange(), linked.first->trackRange())) {
+            throw LinkException(media->trackRange(), linked.first->trackRange());
+        }
+        result->splice(result->end(), *linked.second->mediasIntersectingRange(range, linked.first));
+    }
+    return result;
+}
+
+boost::shared_ptr<Media> Track::checkOwnershipAndCollisions(
+    boost::shared_ptr<Media const> const& media, Range<long long> const& range, bool includeLinks)
+{
+    boost::shared_ptr<Media> const found = findMedia(media);
+    if (!found) {
+        throw ValueException<boost::shared_ptr<Media const>>("media not found in track", media);
+    }
+    boost::shared_ptr<ConstMediaList> const inTheWay = collidingMedia(media, range, includeLinks);
+    if (!inTheWay->empty()) {
+        throw CollisionException(inTheWay);
+    }
+    return found;
+}
+
+boost::shared_ptr<Transition const> Track::leftTransition(
+    boost::shared_ptr<Media const> const& media) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return boost::dynamic_pointer_cast<Transition const>(leftNeighbour(media));
+}
+
+boost::shared_ptr<Transition const> Track::rightTransition(
+    boost::shared_ptr<Media const> const& media) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return boost::dynamic_pointer_cast<Transition const>(rightNeighbour(media));
+}
+
+boost::shared_ptr<Media const> Track::leftOfTransition(
+    boost::shared_ptr<Transition const> const& transition) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return leftNeighbour(transition->transitionMediaRepresentation());
+}
+
+boost::shared_ptr<Media const> Track::rightOfTransition(
+    boost::shared_ptr<Transition const> const& transition) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return rightNeighbour(transition->transitionMediaRepresentation());
+}
+
+bool Track::hasInstanceOf(boost::shared_ptr<Source const> const& source) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return std::any_of(medias().begin(), medias().end(), [&](MediaMap::value_type const& entry) {
+        return entry.second->isInstanceOf(source);
+    });
+}
+
+boost::shared_ptr<ConstMediaList> Track::instancesOf(
+    boost::shared_ptr<Source const> const& source) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    boost::shared_ptr<ConstMediaList> const result = boost::make_shared<ConstMediaList>();
+    for (MediaMap::value_type const& entry : medias()) {
+        if (entry.second->isInstanceOf(source)) {
+            result->push_back(entry.second);
+        }
+    }
+    return result;
+}
+
+template <class M, class T>
+std::pair<boost::shared_ptr<M>, boost::shared_ptr<T>> Track::lockMediaAndTrack(
+    boost::weak_ptr<M> const& link) const
+{
+    boost::shared_ptr<M> const media = link.lock();
+    if (!media) {
+        throw DanglingWeakPtrException<Media const>();
+    }
+    boost::shared_ptr<T> const track = media->parentTrack().lock();
+    if (!track) {
+        throw DanglingWeakPtrException<Track const>();
+    }
+    return std::make_pair(media, track);
+}
+
+template std::pair<boost::shared_ptr<Media>, boost::shared_ptr<Track>> Track::lockMediaAndTrack(
+    boost::weak_ptr<Media> const& link) const;
+template std::pair<boost::shared_ptr<Media const>, boost::shared_ptr<Track const>>
+Track::lockMediaAndTrack(boost::weak_ptr<Media const> const& link) const;
+
+boost::shared_ptr<TrackSubSection<Media>> Track::subSection(Range<long long> const& range) const
+{
+    return subSectionImpl(this, range);
+}
+
+template <class T>
+boost::shared_ptr<TrackSubSection<typename T::MediaType>> Track::subSectionImpl(
+    T const* track, Range<long long> const& range)
+{
+    using M = typename T::MediaType;
+    ReadWriteMutex::ScopedReadLock lock(track->mutex());
+    boost::shared_ptr<TrackSubSection<M>> const result = boost::make_shared<TrackSubSection<M>>();
+    boost::shared_ptr<ConstMediaList> const medias =
+        track->mediasIntersectingRange(range, boost::shared_ptr<Media const>());
+    for (boost::shared_ptr<Media const> const& media : *medias) {
+        Range<long long> const common = media->trackRange().intersection(range);
+        boost::shared_ptr<M const> const typed = boost::dynamic_pointer_cast<M const>(media);
+        if (typed && common.duration > 0) {
+            result->addMedia(typed, common);
+        }
+    }
+    return result;
+}
+
+template boost::shared_ptr<TrackSubSection<Media>> Track::subSectionImpl(
+    Track const* track, Range<long long> const& range);
+template boost::shared_ptr<TrackSubSection<VisualMedia>> Track::subSectionImpl(
+    AbstractVisualTrack const* track, Range<long long> const& range);
+template boost::shared_ptr<TrackSubSection<VisualMedia>> Track::subSectionImpl(
+    VisualTrack const* track, Range<long long> const& range);
+template boost::shared_ptr<TrackSubSection<ImageMedia>> Track::subSectionImpl(
+    ImageTrack const* track, Range<long long> const& range);
+template boost::shared_ptr<TrackSubSection<AudioMedia>> Track::subSectionImpl(
+    AudioTrack const* track, Range<long long> const& range);
+
+}  // namespace tarn

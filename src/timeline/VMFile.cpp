@@ -1,0 +1,154 @@
+#include "timeline/VMFile.h"
+
+#include "datatypes/ScreenMetaData.h"
+#include "parameters/Attribute.h"
+#include "timeline/ConstMediaDispatcher.h"
+#include "timeline/MediaDispatcher.h"
+
+#include <ostream>
+
+namespace tarn {
+
+namespace {
+
+using MetaDataAttribute = Attribute<boost::shared_ptr<ScreenMetaData const>>;
+
+}  // namespace
+
+VMFile::VMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
+               boost::shared_ptr<Source const> const& source, unsigned int trackNumber)
+    : VMFile(
+          range,
+          SourceTrack(source, trackNumber, "trying to make a vmfile with an invalid source track"),
+          project)
+{}
+
+VMFile::VMFile(Range<long long> const& range, SourceTrack const& track,
+               boost::weak_ptr<ThreadSafe const> const& project)
+    : VideoMedia(range, static_cast<double>(track.timeRange().start),
+                 static_cast<double>(track.timeRange().end()), project)
+    , m_file(track)
+    , m_rect(track.rect())
+    , m_screenMetaData(new MetaDataAttribute(boost::shared_ptr<ScreenMetaData const>(), project))
+{}
+
+VMFile::VMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
+               Rect<float> const& rect, std::string const& fileName)
+    : VideoMedia(range, static_cast<double>(range.start), static_cast<double>(range.end()), project)
+    , m_file(SourceTrack(fileName))
+    , m_rect(rect)
+    , m_screenMetaData(new MetaDataAttribute(boost::shared_ptr<ScreenMetaData const>(), project))
+{}
+
+VMFile::VMFile(VMFile const& other)
+    : XMLIdentified(other)
+    , VideoMedia(other)
+    , FileRepresentation(other)
+    , m_file(other.m_file)
+    , m_rect(other.m_rect)
+    , m_screenMetaData(other.m_screenMetaData->clone())
+{}
+
+std::string VMFile::fileName() const
+{
+    return m_file.fileName();
+}
+
+std::string VMFile::containerFileName() const
+{
+    return m_file.containerFileName();
+}
+
+unsigned int VMFile::trackNumber() const
+{
+    return m_file.trackNumber();
+}
+
+boost::shared_ptr<Source const> VMFile::source() const
+{
+    return m_file.source();
+}
+
+double VMFile::width() const
+{
+    return m_rect.width;
+}
+
+double VMFile::height() const
+{
+    return m_rect.height;
+}
+
+boost::shared_ptr<MetaDataAttribute> VMFile::screenMetaData()
+{
+    return m_screenMetaData;
+}
+
+boost::shared_ptr<MetaDataAttribute const> VMFile::screenMetaData() const
+{
+    return m_screenMetaData;
+}
+
+void VMFile::grabFrame(double) {}
+
+void VMFile::holdSourceWeakly()
+{
+    m_file.holdSourceWeakly();
+}
+
+void VMFile::receiveDispatcher(ConstMediaDispatcher* dispatcher) const
+{
+    dispatcher->dispatchMedia(boost::static_pointer_cast<VMFile const>(shared_from_this()));
+}
+
+void VMFile::receiveDispatcher(MediaDispatcher* dispatcher)
+{
+    dispatcher->dispatchMedia(boost::static_pointer_cast<VMFile>(shared_from_this()));
+}
+
+bool VMFile::isInstanceOf(boost::shared_ptr<Source const> const& source) const
+{
+    return m_file.isInstanceOf(source);
+}
+
+VMFile* VMFile::clone() const
+{
+    return cloneOf(*this);
+}
+
+std::string VMFile::description() const
+{
+    return "vmfile";
+}
+
+int VMFile::numAttributes() const
+{
+    return VideoMedia::numAttributes() + 1;
+}
+
+void VMFile::xmlOfAttributes(XMLable::Options& options, int indent) const
+{
+    VideoMedia::xmlOfAttributes(options, indent);
+    m_screenMetaData->toXML(options, indent, "name=\"screenMetaData\"");
+}
+
+void VMFile::xmlName(XMLable::Options& options) const
+{
+    *options.stream << "VMFile";
+}
+
+void VMFile::xmlAttributes(XMLable::Options& options) const
+{
+    VideoMedia::xmlAttributes(options);
+    *options.stream << " trackNumber=\"" << trackNumber() << "\" src=\"" << m_file.sourceXmlIdent()
+                    << '"';
+}
+
+void VMFile::xmlBody(XMLable::Options& options, int indent) const
+{
+    VideoMedia::xmlBody(options, indent);
+    if (boost::shared_ptr<ScreenMetaData const> const metaData = m_screenMetaData->value())
+        metaData->toXML(options, indent, "");
+}
+
+}  // namespace tarn

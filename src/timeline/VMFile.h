@@ -1,0 +1,63 @@
+#pragma once
+
+#include "datatypes/FileRepresentation.h"
+#include "timeline/VideoMedia.h"
+#include "timeline/VisualFileMedia.h"
+
+namespace tarn {
+
+/// A video taken from one track of a source. A screen recording's video also carries what was
+/// recorded beside the picture.
+class TARN_API VMFile : public VideoMedia, public FileRepresentation
+{
+public:
+    /// `range` is edit units on the source's clock; trims are bounded by the source's time range.
+    /// @throws TarnMediaLibException "trying to make a vmfile with an invalid source track"
+    VMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
+           boost::shared_ptr<Source const> const& source, unsigned int trackNumber);
+    /// Of a file known by name only; trims are bounded by `range` itself.
+    VMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
+           Rect<float> const& rect, std::string const& fileName);
+
+    std::string fileName() const override;
+    std::string containerFileName() const override;
+    unsigned int trackNumber() const;
+    boost::shared_ptr<Source const> source() const;
+    double width() const override;
+    double height() const override;
+    boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>>> screenMetaData();
+    boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>> const> screenMetaData()
+        const;
+    /// Decoding is the host's: does nothing.
+    void grabFrame(double time);
+
+    /// For a source's own medias only, which must not keep their source alive.
+    void holdSourceWeakly();
+
+    void receiveDispatcher(ConstMediaDispatcher* dispatcher) const override;
+    void receiveDispatcher(MediaDispatcher* dispatcher) override;
+    bool isInstanceOf(boost::shared_ptr<Source const> const& source) const override;
+    VMFile* clone() const override;
+
+    std::string description() const override;
+    int numAttributes() const override;
+    void xmlOfAttributes(XMLable::Options& options, int indent) const override;
+    void xmlName(XMLable::Options& options) const override;
+    void xmlAttributes(XMLable::Options& options) const override;
+    void xmlBody(XMLable::Options& options, int indent) const override;
+
+protected:
+    VMFile(VMFile const& other);
+
+private:
+    friend class MediaImpl;  // its cloneOf() copies
+
+    VMFile(Range<long long> const& range, SourceTrack const& track,
+           boost::weak_ptr<ThreadSafe const> const& project);
+
+    VisualFileMedia m_file;
+    Rect<float> m_rect;
+    boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>>> m_screenMetaData;
+};
+
+}  // namespace tarn

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "datatypes/FileRepresentation.h"
+#include "datatypes/TarnObject.h"
+#include "timeline/SourceTrack.h"
+
+namespace tarn {
+
+/// The way from a file-backed picture to its source. Owned by the media, never a base of one.
+class TARN_API VisualFileMedia : public TarnObject, public FileRepresentation
+{
+public:
+    explicit VisualFileMedia(SourceTrack const& track);
+
+    std::string description() const override;
+    std::string fileName() const override;
+    std::string containerFileName() const override;
+
+    boost::shared_ptr<Source const> source() const;
+    unsigned int trackNumber() const;
+    bool isInstanceOf(boost::shared_ptr<Source const> const& source) const;
+    std::string sourceXmlIdent() const;
+    void holdSourceWeakly();
+
+private:
+    SourceTrack m_track;
+};
+
+}  // namespace tarn

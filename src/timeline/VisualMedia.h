@@ -1,0 +1,58 @@
+#pragma once
+
+#include "datatypes/Rect.h"
+#include "datatypes/TransformMatrix.h"
+#include "datatypes/Transformer.h"
+#include "parameters/ParametersFwd.h"
+#include "timeline/MediaImpl.h"
+
+namespace tarn {
+
+/// What every picture on the timeline has: two crops, an opacity and a transform.
+///
+/// A crop is what is cut off the picture's near and far sides: x-near, y-near, x-far, y-far.
+/// Times asked for are edit units since the media's start.
+class TARN_API VisualMedia : public MediaImpl, public Transformer
+{
+public:
+    VisualMedia(Range<long long> const& sourceRange, double mediaStartLimit, double mediaEndLimit,
+                boost::weak_ptr<ThreadSafe const> const& project);
+
+    virtual TransformMatrix transformAtTime(long long time) const;
+    virtual double width() const = 0;
+    virtual double height() const = 0;
+
+    boost::shared_ptr<VectorParam> sourceCropParam() { return m_sourceCrop; }
+    boost::shared_ptr<VectorParam const> sourceCropParam() const { return m_sourceCrop; }
+    boost::shared_ptr<VectorParam> geometryCropParam() { return m_geometryCrop; }
+    boost::shared_ptr<VectorParam const> geometryCropParam() const { return m_geometryCrop; }
+    boost::shared_ptr<InterpolatingParam<double>> opacity() { return m_opacity; }
+    boost::shared_ptr<InterpolatingParam<double> const> opacity() const { return m_opacity; }
+
+    /// What the crop leaves of the picture.
+    Rect<double> sourceCropRectAtTime(long long time) const;
+    Rect<double> geometryCropRectAtTime(long long time) const;
+
+    /// Aims the clone's edge functions at the clone, where they knew their media.
+    void setupSharedClone(boost::shared_ptr<Media> const& clone) const override;
+
+    std::string description() const override;
+    int numParameters() const override;
+    boost::shared_ptr<MTVector<boost::shared_ptr<ParameterInterface const>>> parameterVector()
+        const override;
+    void xmlOfParameters(XMLable::Options& options, int indent) const override;
+    void xmlName(XMLable::Options& options) const override;
+    void xmlBody(XMLable::Options& options, int indent) const override;
+
+protected:
+    VisualMedia(VisualMedia const& other);
+
+private:
+    Rect<double> cropRectAtTime(VectorParam const& crop, long long time) const;
+
+    boost::shared_ptr<VectorParam> m_sourceCrop;
+    boost::shared_ptr<VectorParam> m_geometryCrop;
+    boost::shared_ptr<InterpolatingParam<double>> m_opacity;
+};
+
+}  // namespace tarn
