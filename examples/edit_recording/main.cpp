@@ -6,7 +6,6 @@
 // Everything a host does is one of three things: it makes a command and hands it to
 // Project::execute, it calls undo or redo, or it reads the model.
 
-#include "AddNumberCmd.h"
 #include "BinTable.h"
 #include "FramePicture.h"
 #include "TimelinePicture.h"
@@ -106,6 +105,34 @@ shared_ptr<tarn::Media const> mediaAt(shared_ptr<tarn::Track const> const& track
     return track->mediaAtTime(time).second;
 }
 
+/// A media hangs at its anchor, which is its lower left corner until a host moves it.
+void centreRecording(Host& host)
+{
+    auto const clip =
+        boost::dynamic_pointer_cast<tarn::VisualMedia const>(mediaAt(visualTrack(host, 0), 0));
+    if (!clip)
+        return;
+    host.run("centre it: the anchor to half its width",
+             tarn::ChangeKeyFrameCmd<double>::create(clip->anchor()->at(0), 0, clip->width() / 2));
+    // The second half of what the user sees as one edit, and undoes as one.
+    host.project->combineNextCommand();
+    host.project->execute(
+        tarn::ChangeKeyFrameCmd<double>::create(clip->anchor()->at(1), 0, clip->height() / 2));
+}
+
+/// Centres a media on a point of the picture plane, whose middle is (0, 0), y upwards.
+///
+/// Only for one that lies on no track yet: that is the host's own, and changed directly.
+void centreOn(tarn::Point const& point, double scale, shared_ptr<tarn::VisualMedia> const& media)
+{
+    media->anchor()->at(0)->changeKeyFrame(0, media->width() / 2);
+    media->anchor()->at(1)->changeKeyFrame(0, media->height() / 2);
+    media->scale()->at(0)->changeKeyFrame(0, scale);
+    media->scale()->at(1)->changeKeyFrame(0, scale);
+    media->translation()->at(0)->changeKeyFrame(0, point.x);
+    media->translation()->at(1)->changeKeyFrame(0, point.y);
+}
+
 /// Places every track of the recording, linked, so that picture and sound move as one.
 void placeRecording(Host& host, shared_ptr<tarn::Source> const& recording)
 {
@@ -116,11 +143,13 @@ void placeRecording(Host& host, shared_ptr<tarn::Source> const& recording)
     if (auto const sounds = recording->timeline()->audioMixer())
         place->addTrackMap<tarn::AudioTrack>(sounds->trackAtIndex(0), audioTrack(host, 0));
     host.run("place the recording on V1 and A1, linked", place);
+    centreRecording(host);
 }
 
 void placeStill(Host& host, shared_ptr<tarn::Source> const& picture)
 {
-    shared_ptr<tarn::Media> const still(new tarn::IMFile(0, 90, host.lock(), picture, 0));
+    shared_ptr<tarn::IMFile> const still(new tarn::IMFile(0, 90, host.lock(), picture, 0));
+    centreOn(tarn::Point(220, -160, 0), 0.5, still);
     host.run("place the still picture on V2 at 30",
              tarn::AddMediaCmd::create(visualTrack(host, 1), still, 30));
 }
@@ -214,9 +243,9 @@ void animate(Host& host)
     // Key frames lie on the clock of the source: local time 0 is where the media starts in it.
     long long const from = static_cast<long long>(clip->toParameterTime(0));
     host.run("opacity: a key frame of 0.4 a second in",
-             AddNumberCmd::create(clip->opacity(), from + 30, 0.4));
+             tarn::AddKeyFrameCmd<double>::create(clip->opacity(), from + 30, 0.4));
     host.run("translation: to the right by 80 a second in",
-             AddNumberCmd::create(clip->translation()->at(0), from + 30, 80.0));
+             tarn::AddKeyFrameCmd<double>::create(clip->translation()->at(0), from + 30, 80.0));
 
     host.run("a fade-in", tarn::AddLeftEdgeModCmd::create(
                               clip, tarn::EdgeModification(clip->opacity(), tarn::FadeInFunc())));
@@ -253,13 +282,14 @@ void decorateStill(Host& host)
 
 void annotate(Host& host, shared_ptr<tarn::Source> const& picture)
 {
-    shared_ptr<tarn::Media> const title(
+    shared_ptr<tarn::TextBox> const title(
         new tarn::TextBox("Recorded with TarnMediaLib", 0, 60, 0, 60, host.lock(), 300, 60));
+    centreOn(tarn::Point(0, 190, 0), 1, title);
     host.run("a text box on V3", tarn::AddMediaCmd::create(visualTrack(host, 2), title, 0));
     if (!picture)
         return;
     shared_ptr<tarn::Callout> const callout(new tarn::Callout(0, 60, host.lock(), picture, 0));
-    // Still without a track, so it may be changed directly.
+    centreOn(tarn::Point(-200, 130, 0), 0.5, callout);
     callout->textParam()->changeKeyFrame(0, "Look here");
     host.run("a callout on V3", tarn::AddMediaCmd::create(visualTrack(host, 2), callout, 75));
 }
@@ -269,8 +299,8 @@ void click(Host& host)
 {
     say("Clicking on the picture");
     shared_ptr<tarn::VisualMixer const> const mixer = host.project->timeline()->visualMixer();
-    tarn::Point const location(40, 40, 0);
-    long long const time = 45;
+    tarn::Point const location(200, -150, 0);
+    long long const time = 100;
     auto const hit = tarn::HitTester::hitTestAtLocation(mixer, location, time);
     std::cout << "  at time " << time << ", at " << location << ": "
               << (hit.first ? "a " + hit.first->description() : "nothing");

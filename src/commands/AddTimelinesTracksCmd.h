@@ -58,7 +58,7 @@ private:
     std::list<boost::shared_ptr<Media const>> m_addedMedias;
 };
 
-extern template class AddTimelinesTracksCmd<AbstractVisualTrack>;
-extern template class AddTimelinesTracksCmd<AudioTrack>;
+extern template class TARN_API AddTimelinesTracksCmd<AbstractVisualTrack>;
+extern template class TARN_API AddTimelinesTracksCmd<AudioTrack>;
 
 }  // namespace tarn

@@ -12,7 +12,7 @@
 namespace tarn {
 
 ///     before   A1: .bb...... / V1: aa.......
-///     after    A1: .bb....dd / V1: aa....cc.      a to V1 and b to A1 at 60
+///     after    A1: .bb....cc / V1: aa....dd.      a to V1 and b to A1 at 60
 ///
 /// Puts clones of medias from anywhere on the tracks they were mapped to. The earliest lands on the
 /// command's time, and the others keep their distance from it. The clones are not linked.

@@ -30,6 +30,6 @@ private:
     boost::shared_ptr<T> m_clone;
 };
 
-extern template class CloneCmd<Media>;
+extern template class TARN_API CloneCmd<Media>;
 
 }  // namespace tarn

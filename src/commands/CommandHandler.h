@@ -2,11 +2,13 @@
 
 #include "clipbin/ClipBinFwd.h"
 #include "commands/CommandsFwd.h"
+#include "datatypes/DatatypesFwd.h"
 #include "datatypes/Export.h"
 #include "effects/EffectsFwd.h"
 #include "parameters/ParametersFwd.h"
 #include "timeline/TimelineFwd.h"
 
+#include <boost/any.hpp>
 #include <boost/shared_ptr.hpp>
 
 #include <list>
@@ -105,6 +107,35 @@ public:
 
     /// Not owned by the caller.
     virtual EdgeModCommandHandler* edgeModCommandHandler() = 0;
+
+    /// @name Parameters and attributes of any type
+    ///
+    /// Times lie on the clock of the parameter's key frames. A key frame of a Parameter<T> travels
+    /// as a boost::shared_ptr<KeyFrame<T>>, its value and that of an Attribute<T> as a T.
+    /// @throws KeyFrameException as the parameter does
+    /// @throws TypeException when what travels is of another type than the parameter or attribute
+    /// @{
+
+    /// Stores the key frame itself at its own time.
+    virtual void addParameterKeyFrame(boost::shared_ptr<ParameterInterface const> const& parameter,
+                                      boost::any const& keyFrame) = 0;
+    /// The key frame remains the same object. @return the value that it had
+    virtual boost::any changeParameterKeyFrame(
+        boost::shared_ptr<ParameterInterface const> const& parameter, long long time,
+        boost::any const& value) = 0;
+    /// @return the key frame
+    virtual boost::any removeParameterKeyFrame(
+        boost::shared_ptr<ParameterInterface const> const& parameter, long long time) = 0;
+    /// The key frame remains the same object.
+    virtual void moveParameterKeyFrame(boost::shared_ptr<ParameterInterface const> const& parameter,
+                                       long long from, long long to) = 0;
+    /// Shifts all key frames, which become new objects.
+    virtual void moveParameterKeyframes(
+        boost::shared_ptr<ParameterInterface const> const& parameter, long long delta) = 0;
+    /// `attribute` is an Attribute<T>. @return the value that it had
+    virtual boost::any changeAttribute(boost::shared_ptr<XMLable const> const& attribute,
+                                       boost::any const& value) = 0;
+    /// @}
 };
 
 }  // namespace tarn

@@ -41,8 +41,8 @@ private:
     boost::shared_ptr<M const> m_mixer;
 };
 
-extern template class NewTrackCmd<Mixer, Track>;
-extern template class NewTrackCmd<VisualMixer, VisualTrack>;
-extern template class NewTrackCmd<AudioMixer, AudioTrack>;
+extern template class TARN_API NewTrackCmd<Mixer, Track>;
+extern template class TARN_API NewTrackCmd<VisualMixer, VisualTrack>;
+extern template class TARN_API NewTrackCmd<AudioMixer, AudioTrack>;
 
 }  // namespace tarn

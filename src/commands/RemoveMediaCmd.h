@@ -37,6 +37,6 @@ private:
     boost::shared_ptr<RemovedMedias> m_removed;
 };
 
-extern template class RemoveMediaCmd<Media>;
+extern template class TARN_API RemoveMediaCmd<Media>;
 
 }  // namespace tarn

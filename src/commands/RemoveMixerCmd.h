@@ -28,7 +28,7 @@ private:
     boost::shared_ptr<T> m_removedMixer;
 };
 
-extern template class RemoveMixerCmd<VisualMixer>;
-extern template class RemoveMixerCmd<AudioMixer>;
+extern template class TARN_API RemoveMixerCmd<VisualMixer>;
+extern template class TARN_API RemoveMixerCmd<AudioMixer>;
 
 }  // namespace tarn

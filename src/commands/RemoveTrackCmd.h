@@ -33,8 +33,8 @@ private:
     std::pair<boost::shared_ptr<Track>, int> m_removed;
 };
 
-extern template class RemoveTrackCmd<AbstractVisualTrack>;
-extern template class RemoveTrackCmd<AudioTrack>;
-extern template class RemoveTrackCmd<Track>;
+extern template class TARN_API RemoveTrackCmd<AbstractVisualTrack>;
+extern template class TARN_API RemoveTrackCmd<AudioTrack>;
+extern template class TARN_API RemoveTrackCmd<Track>;
 
 }  // namespace tarn

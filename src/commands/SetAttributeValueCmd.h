@@ -32,6 +32,6 @@ private:
     T m_oldValue;  // known once executed
 };
 
-extern template class SetAttributeValueCmd<boost::shared_ptr<ScreenMetaData const>>;
+extern template class TARN_API SetAttributeValueCmd<boost::shared_ptr<ScreenMetaData const>>;
 
 }  // namespace tarn

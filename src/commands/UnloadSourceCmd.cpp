@@ -6,6 +6,7 @@
 #include "commands/SourceXml.h"
 
 #include <ostream>
+#include <string>
 
 namespace tarn {
 
@@ -42,7 +43,8 @@ void UnloadSourceCmd::xmlName(XMLable::Options& options) const
 
 void UnloadSourceCmd::xmlBody(XMLable::Options& options, int indent) const
 {
-    xmlOfSourceFile(options, indent, m_source->mediaFileStats()->filename(), m_source);
+    std::string const file = m_source ? m_source->mediaFileStats()->filename() : std::string();
+    xmlOfSourceFile(options, indent, file, m_source);
 }
 
 }  // namespace tarn

@@ -151,6 +151,23 @@ public:
 
     EdgeModCommandHandler* edgeModCommandHandler() override;
 
+    /// @name Parameters and attributes of any type; see CommandHandler
+    /// @throws TarnMediaLibException for an empty parameter or attribute
+    /// @{
+    void addParameterKeyFrame(boost::shared_ptr<ParameterInterface const> const& parameter,
+                              boost::any const& keyFrame) override;
+    boost::any changeParameterKeyFrame(boost::shared_ptr<ParameterInterface const> const& parameter,
+                                       long long time, boost::any const& value) override;
+    boost::any removeParameterKeyFrame(boost::shared_ptr<ParameterInterface const> const& parameter,
+                                       long long time) override;
+    void moveParameterKeyFrame(boost::shared_ptr<ParameterInterface const> const& parameter,
+                               long long from, long long to) override;
+    void moveParameterKeyframes(boost::shared_ptr<ParameterInterface const> const& parameter,
+                                long long delta) override;
+    boost::any changeAttribute(boost::shared_ptr<XMLable const> const& attribute,
+                               boost::any const& value) override;
+    /// @}
+
     boost::shared_ptr<Timeline> timeline() const override;
     boost::shared_ptr<SourceBin> sourceBin() const override;
     boost::shared_ptr<CommandHistory> commandHistory() const override;

@@ -3,7 +3,6 @@
 #include "project/ReadWriteMutex.h"
 
 #include <memory>
-#include <optional>
 
 namespace tarn {
 
@@ -11,14 +10,21 @@ namespace tarn {
 class ReadLockIfAny
 {
 public:
-    explicit ReadLockIfAny(std::unique_ptr<ReadWriteMutex> const& mutex)
+    explicit ReadLockIfAny(std::unique_ptr<ReadWriteMutex> const& mutex) : m_mutex(mutex.get())
     {
-        if (mutex)
-            m_lock.emplace(*mutex);
+        if (m_mutex)
+            m_mutex->acquireReadLock();
     }
+    ~ReadLockIfAny()
+    {
+        if (m_mutex)
+            m_mutex->releaseReadLock();
+    }
+    ReadLockIfAny(ReadLockIfAny const&) = delete;
+    ReadLockIfAny& operator=(ReadLockIfAny const&) = delete;
 
 private:
-    std::optional<ReadWriteMutex::ScopedReadLock> m_lock;
+    ReadWriteMutex* m_mutex;
 };
 
 }  // namespace tarn

@@ -132,7 +132,7 @@ double MediaImpl::findScalar(double requested) const
         double const limit = std::floor(now.mediaEndLimit - now.mediaRange.start);
         return std::min(roundToWhole(base), limit) * now.scalar / trackDuration;
     }
-    return roundToWhole(base * requested) / base;
+    return roundToWhole(base * requested) * now.scalar / trackDuration;
 }
 
 Range<long long> MediaImpl::trackRangeWithStretch(double scalar) const

@@ -141,7 +141,8 @@ void printEdgeModXML(EdgeModification const& modification, XMLable::Options& opt
     out << XMLable::genIndent(indent) << "<EdgeMod parameter=\"";
     if (modification.parameter())
         out << modification.parameter()->xmlIdent();
-    out << "\">\n";
+    // Kept so: the function's element follows on the same line.
+    out << "\">";
     modification.func().toXML(options, indent + 1, "");
     out << XMLable::genIndent(indent) << "</EdgeMod>\n";
 }
