@@ -15,6 +15,7 @@ class Observer;
 class ObserverList;
 class Point;
 class Quad;
+class ReservedIdent;
 class ScreenMetaData;
 class ScreenMetaDataLoader;
 class Subject;

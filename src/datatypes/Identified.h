@@ -1,6 +1,8 @@
 #pragma once
 
 #include "datatypes/Export.h"
+#include "datatypes/MadeOnFirstUse.h"
+#include "datatypes/ReservedIdent.h"
 #include "parameters/ParametersFwd.h"
 #include "project/ProjectFwd.h"
 
@@ -15,8 +17,9 @@ namespace tarn {
 class TARN_API Identified
 {
 public:
-    /// The text is empty at first.
-    explicit Identified(boost::weak_ptr<ThreadSafe const> const& project);
+    explicit Identified(boost::weak_ptr<ThreadSafe const> const& project,
+                        std::string const& text = std::string(),
+                        ReservedIdent attributeIdent = ReservedIdent::draw());
     virtual ~Identified();
 
     virtual boost::shared_ptr<Attribute<std::string>> identAttribute();
@@ -27,8 +30,18 @@ protected:
     Identified(Identified const& other);
     Identified& operator=(Identified const& other) = delete;
 
+    /// What the attribute says, under the read lock.
+    /// @throws boost::bad_weak_ptr for a dead project
+    std::string identText() const;
+
 private:
-    boost::shared_ptr<Attribute<std::string>> m_identAttribute;
+    boost::shared_ptr<Attribute<std::string>> const& attribute() const;
+
+    boost::weak_ptr<ThreadSafe const> m_identProject;
+    // The text while nobody has asked for the attribute, as for most nobody ever does.
+    std::string m_firstText;
+    mutable ReservedIdent m_attributeIdent;
+    MadeOnFirstUse<Attribute<std::string>> m_identAttribute;
 };
 
 }  // namespace tarn

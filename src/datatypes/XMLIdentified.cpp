@@ -1,10 +1,13 @@
 #include "datatypes/XMLIdentified.h"
 
 #include "datatypes/IdentManager.h"
+#include "datatypes/ReservedIdent.h"
 
 namespace tarn {
 
 XMLIdentified::XMLIdentified() : m_xmlIdent(IdentManager::instance()->newIdent()) {}
+
+XMLIdentified::XMLIdentified(ReservedIdent& ident) : m_xmlIdent(ident.take()) {}
 
 XMLIdentified::XMLIdentified(XMLIdentified const&) : XMLIdentified() {}
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "datatypes/DatatypesFwd.h"
 #include "datatypes/Export.h"
 
 namespace tarn {
@@ -12,6 +13,8 @@ class TARN_API XMLIdentified
 {
 public:
     XMLIdentified();
+    /// Takes the ident over.
+    explicit XMLIdentified(ReservedIdent& ident);
     /// A copy is another object: it has its own number.
     XMLIdentified(XMLIdentified const& other);
     /// Keeps the number it has.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "exceptions/TarnMediaLibException.h"
+#include "project/ProjectFwd.h"
+#include "timeline/TimelineFwd.h"
 
 namespace tarn {
 
@@ -11,5 +13,10 @@ class TARN_API DanglingWeakPtrException : public TarnMediaLibException
 public:
     DanglingWeakPtrException() : TarnMediaLibException("") {}
 };
+
+// Said once more here: what is known by its name alone would hide the instance from hosts.
+extern template class TARN_API DanglingWeakPtrException<Media const>;
+extern template class TARN_API DanglingWeakPtrException<Track const>;
+extern template class TARN_API DanglingWeakPtrException<ProjectEditRate>;
 
 }  // namespace tarn

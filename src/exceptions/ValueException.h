@@ -1,6 +1,9 @@
 #pragma once
 
+#include "clipbin/ClipBinFwd.h"
+#include "effects/EffectsFwd.h"
 #include "exceptions/TarnMediaLibException.h"
+#include "timeline/TimelineFwd.h"
 
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
@@ -34,5 +37,11 @@ extern template class ValueException<int>;
 extern template class ValueException<double>;
 extern template class ValueException<long long>;
 extern template class ValueException<std::string>;
+// Said once more for these: the Boost pointer among the arguments would hide them from hosts.
+extern template class TARN_API ValueException<boost::shared_ptr<Media>>;
+extern template class TARN_API ValueException<boost::shared_ptr<Media const>>;
+extern template class TARN_API ValueException<boost::shared_ptr<Track const>>;
+extern template class TARN_API ValueException<boost::shared_ptr<Source const>>;
+extern template class TARN_API ValueException<boost::shared_ptr<Effect const>>;
 
 }  // namespace tarn

@@ -28,6 +28,12 @@ Attribute<T>::Attribute(T const& value, boost::weak_ptr<ThreadSafe const> const&
 {}
 
 template <class T>
+Attribute<T>::Attribute(T const& value, boost::weak_ptr<ThreadSafe const> const& project,
+                        ReservedIdent& ident)
+    : XMLIdentified(ident), SubProject(project), m_value(value)
+{}
+
+template <class T>
 Attribute<T>::Attribute(Attribute const& other)
     : XMLIdentified(other)
     , SubProject(other)

@@ -22,6 +22,9 @@ class TARN_API Attribute : public SubProject, public Cloneable, public XMLable, 
 {
 public:
     Attribute(T const& value, boost::weak_ptr<ThreadSafe const> const& project);
+    /// With an ident that was held back for it.
+    Attribute(T const& value, boost::weak_ptr<ThreadSafe const> const& project,
+              ReservedIdent& ident);
     /// The copied attribute's read lock is held by the caller; clone() takes it.
     Attribute(Attribute const& other);
     Attribute& operator=(Attribute const& other) = delete;

@@ -1,6 +1,6 @@
 #include "parameters/InterpolatingParam.h"
 
-#include "parameters/Attribute.h"
+#include "datatypes/XmlRepresentation.h"
 #include "parameters/ConstParameterDispatcher.h"
 #include "parameters/LeftParameter.h"
 #include "parameters/LinearInterpolater.h"
@@ -10,6 +10,7 @@
 
 #include <ostream>
 #include <sstream>
+#include <utility>
 
 namespace tarn {
 
@@ -17,18 +18,42 @@ template <class T>
 InterpolatingParam<T>::InterpolatingParam(boost::weak_ptr<ThreadSafe const> const& project,
                                           std::string const& name)
     : ParameterImpl<T>(project, name)
-    , m_interpolater(new LeftParameter<boost::shared_ptr<Interpolater<T>>>(project, "interpolater"))
-{
-    m_interpolater->addKeyFrame(0, LinearInterpolater<T>::instance());
-}
+    , m_interpolaterIdent(ReservedIdent::draw())
+    , m_interpolaterAttributeIdent(ReservedIdent::draw())
+{}
 
 template <class T>
 InterpolatingParam<T>::InterpolatingParam(InterpolatingParam const& other)
     : XMLIdentified(other)
     , ParameterImpl<T>(other)
     , Parametric(other)
-    , m_interpolater(other.m_interpolater->clone())
+    , m_interpolaterIdent(other.m_interpolater.isMade() ? ReservedIdent() : ReservedIdent::draw())
+    , m_interpolaterAttributeIdent(m_interpolaterIdent.isHeld() ? ReservedIdent::draw()
+                                                                : ReservedIdent())
+    , m_interpolater(m_interpolaterIdent.isHeld()
+                         ? nullptr
+                         : boost::shared_ptr<InterpolaterParam>(other.interpolaters()->clone()))
 {}
+
+template <class T>
+boost::shared_ptr<LeftParameter<boost::shared_ptr<Interpolater<T>>>>
+InterpolatingParam<T>::newInterpolaters() const
+{
+    boost::shared_ptr<InterpolaterParam> const made(
+        new InterpolaterParam(this->projectMutex(), "interpolater", m_interpolaterIdent,
+                              std::move(m_interpolaterAttributeIdent)));
+    // Nobody can be observing it yet.
+    Subject::NotifyDisabler const silence(made.get());
+    made->addKeyFrame(0, LinearInterpolater<T>::instance());
+    return made;
+}
+
+template <class T>
+boost::shared_ptr<LeftParameter<boost::shared_ptr<Interpolater<T>>>> const&
+InterpolatingParam<T>::interpolaters() const
+{
+    return m_interpolater.get([this] { return newInterpolaters(); });
+}
 
 template <class T>
 std::string InterpolatingParam<T>::description() const
@@ -56,7 +81,10 @@ void InterpolatingParam<T>::receiveDispatcher(ConstParameterDispatcher* dispatch
 template <class T>
 boost::shared_ptr<Interpolater<T>> InterpolatingParam<T>::interpolaterAtTime(double time) const
 {
-    return m_interpolater->valueAtTime(time);
+    if (m_interpolater.isMade())
+        return interpolaters()->valueAtTime(time);
+    static_cast<void>(this->mutex());  // throws for a dead project
+    return LinearInterpolater<T>::instance();
 }
 
 template <class T>
@@ -64,7 +92,7 @@ boost::shared_ptr<Parameter<boost::shared_ptr<Interpolater<T>>>>
 InterpolatingParam<T>::interpolaterParam() const
 {
     ReadWriteMutex::ScopedReadLock lock(this->mutex());
-    return m_interpolater;
+    return interpolaters();
 }
 
 template <class T>
@@ -107,14 +135,14 @@ InterpolatingParam<T>::parameterVector() const
 {
     using Parameters = MTVector<boost::shared_ptr<ParameterInterface const>>;
     boost::shared_ptr<Parameters> const parameters(new Parameters(this->projectMutex()));
-    parameters->push_back(m_interpolater);
+    parameters->push_back(interpolaters());
     return parameters;
 }
 
 template <class T>
 std::string InterpolatingParam<T>::ident() const
 {
-    return this->identAttribute()->value();
+    return this->identText();
 }
 
 template <class T>
@@ -122,9 +150,28 @@ void InterpolatingParam<T>::xmlBody(XMLable::Options& options, int indent) const
 {
     std::ostream& out = *options.stream;
     out << XMLable::genIndent(indent) << "<Parameters>\n";
-    m_interpolater->toXML(options, indent + 1, "name=\"interpolater\"");
+    xmlOfInterpolaters(options, indent + 1);
     out << XMLable::genIndent(indent) << "</Parameters>\n";
     this->xmlOfKeyframes(options, indent);
+}
+
+/// The element is the same whether the parameter exists yet or not.
+template <class T>
+void InterpolatingParam<T>::xmlOfInterpolaters(XMLable::Options& options, int indent) const
+{
+    if (m_interpolater.isMade()) {
+        interpolaters()->toXML(options, indent, "name=\"interpolater\"");
+        return;
+    }
+    std::ostream& out = *options.stream;
+    std::string const margin = XMLable::genIndent(indent);
+    out << margin << "<Parameter id=\"" << m_interpolaterIdent.ident()
+        << "\"  name=\"interpolater\">\n";
+    out << margin << " <Keyframes>\n";
+    out << margin << "  <Keyframe time=\"" << 0 << "\" value=\""
+        << xml_representation(LinearInterpolater<T>::instance()->id()) << "\"/>\n";
+    out << margin << " </Keyframes>\n";
+    out << margin << "</Parameter>\n";
 }
 
 template <class T>

@@ -40,7 +40,16 @@ public:
     void xmlAttributes(XMLable::Options& options) const override;
 
 private:
-    boost::shared_ptr<LeftParameter<boost::shared_ptr<Interpolater<T>>>> m_interpolater;
+    using InterpolaterParam = LeftParameter<boost::shared_ptr<Interpolater<T>>>;
+
+    boost::shared_ptr<InterpolaterParam> const& interpolaters() const;
+    boost::shared_ptr<InterpolaterParam> newInterpolaters() const;
+    void xmlOfInterpolaters(XMLable::Options& options, int indent) const;
+
+    // Made when someone asks for it: until then it is known to say linear at all times.
+    mutable ReservedIdent m_interpolaterIdent;
+    mutable ReservedIdent m_interpolaterAttributeIdent;
+    MadeOnFirstUse<InterpolaterParam> m_interpolater;
 };
 
 #define TARN_DECLARE(T) extern template class TARN_API InterpolatingParam<T>;

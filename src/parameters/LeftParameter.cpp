@@ -1,12 +1,12 @@
 #include "parameters/LeftParameter.h"
 
-#include "parameters/Attribute.h"
 #include "parameters/ConstParameterDispatcher.h"
 #include "parameters/LeftInterpolater.h"
 #include "parameters/ParameterDispatcher.h"
 #include "project/ReadWriteMutex.h"
 
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
@@ -14,6 +14,13 @@ template <class T>
 LeftParameter<T>::LeftParameter(boost::weak_ptr<ThreadSafe const> const& project,
                                 std::string const& name)
     : ParameterImpl<T>(project, name)
+{}
+
+template <class T>
+LeftParameter<T>::LeftParameter(boost::weak_ptr<ThreadSafe const> const& project,
+                                std::string const& name, ReservedIdent& ident,
+                                ReservedIdent attributeIdent)
+    : XMLIdentified(ident), ParameterImpl<T>(project, name, std::move(attributeIdent))
 {}
 
 template <class T>
@@ -62,7 +69,7 @@ LeftParameter<T>* LeftParameter<T>::clone() const
 template <class T>
 std::string LeftParameter<T>::ident() const
 {
-    return this->identAttribute()->value();
+    return this->identText();
 }
 
 template <class T>

@@ -10,6 +10,9 @@ class TARN_API LeftParameter : public ParameterImpl<T>
 {
 public:
     LeftParameter(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name);
+    /// With idents that were held back for it and for its ident attribute.
+    LeftParameter(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name,
+                  ReservedIdent& ident, ReservedIdent attributeIdent);
     /// The copied parameter's read lock is held by the caller; clone() takes it.
     LeftParameter(LeftParameter const& other);
 

@@ -1,9 +1,9 @@
 #include "parameters/Parameter.h"
 
-#include "parameters/Attribute.h"
 #include "project/SharedReadLock.h"
 
 #include <limits>
+#include <utility>
 
 namespace tarn {
 
@@ -20,11 +20,10 @@ boost::shared_ptr<SharedReadLock const> lockIfAlive(
 }  // namespace
 
 template <class T>
-Parameter<T>::Parameter(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name)
-    : SubProject(project), Identified(project)
-{
-    identAttribute()->setValue(name);
-}
+Parameter<T>::Parameter(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name,
+                        ReservedIdent attributeIdent)
+    : SubProject(project), Identified(project, name, std::move(attributeIdent))
+{}
 
 template <class T>
 Parameter<T>::Parameter(Parameter const& other)

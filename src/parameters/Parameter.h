@@ -70,7 +70,8 @@ public:
     ParameterIterator<T> end() const;
 
 protected:
-    Parameter(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name);
+    Parameter(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name,
+              ReservedIdent attributeIdent);
     Parameter(Parameter const& other);
     Parameter& operator=(Parameter const& other) = delete;
 };

@@ -7,9 +7,12 @@
 #include "parameters/XmlValue.h"
 #include "project/ReadWriteMutex.h"
 
+#include <boost/make_shared.hpp>
+
 #include <algorithm>
 #include <limits>
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
@@ -34,8 +37,8 @@ std::size_t countBefore(std::vector<long long> const& times, long long time)
 
 template <class T>
 ParameterImpl<T>::ParameterImpl(boost::weak_ptr<ThreadSafe const> const& project,
-                                std::string const& name)
-    : Parameter<T>(project, name)
+                                std::string const& name, ReservedIdent attributeIdent)
+    : Parameter<T>(project, name, std::move(attributeIdent))
 {}
 
 template <class T>
@@ -53,7 +56,7 @@ template <class T>
 void ParameterImpl<T>::addKeyFrame(long long time, T const& value)
 {
     requireFree(time);
-    insertFrame(time, FramePointer(new KeyFrame<T>(time, value)));
+    insertFrame(time, boost::make_shared<KeyFrame<T>>(time, value));
     this->notify();
 }
 

@@ -41,7 +41,8 @@ public:
 protected:
     using FramePointer = boost::shared_ptr<KeyFrame<T>>;
 
-    ParameterImpl(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name);
+    ParameterImpl(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name,
+                  ReservedIdent attributeIdent = ReservedIdent::draw());
     /// Clones every key frame. The caller holds the read lock.
     ParameterImpl(ParameterImpl const& other);
 

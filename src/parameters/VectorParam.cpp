@@ -1,21 +1,23 @@
 #include "parameters/VectorParam.h"
 
-#include "parameters/Attribute.h"
 #include "parameters/InterpolatingParam.h"
 #include "project/ReadWriteMutex.h"
 
+#include <boost/make_shared.hpp>
+
+#include <algorithm>
 #include <ostream>
 
 namespace tarn {
 
 VectorParam::VectorParam(boost::weak_ptr<ThreadSafe const> const& project, int count,
                          std::string const& name)
-    : SubProject(project), Identified(project)
+    : SubProject(project), Identified(project, name)
 {
-    identAttribute()->setValue(name);
+    m_dimensions.reserve(static_cast<std::size_t>(std::max(count, 0)));
     for (int i = 0; i < count; ++i) {
-        m_dimensions.push_back(boost::shared_ptr<InterpolatingParam<double>>(
-            new InterpolatingParam<double>(project, name + std::to_string(i))));
+        m_dimensions.push_back(
+            boost::make_shared<InterpolatingParam<double>>(project, name + std::to_string(i)));
     }
 }
 

@@ -6,7 +6,9 @@
 #include <boost/thread/thread.hpp>
 #include <pthread.h>
 
+#include <atomic>
 #include <condition_variable>
+#include <cstdint>
 #include <map>
 #include <mutex>
 
@@ -14,7 +16,7 @@ namespace tarn {
 
 namespace {
 
-/// A mutex for the few instructions that read and change the counts.
+/// A mutex whose making may fail as boost says it.
 class StateMutex
 {
 public:
@@ -38,35 +40,11 @@ private:
 
 using StateLock = std::lock_guard<StateMutex>;
 
-/// The main mutex. The last reader out unlocks what the first one in has locked, perhaps on another
-/// thread, which a pthread_mutex_t does not allow.
-class Gate
-{
-public:
-    void lock()
-    {
-        std::unique_lock<std::mutex> guard(m_mutex);
-        m_opened.wait(guard, [this] { return !m_isClosed; });
-        m_isClosed = true;
-    }
-
-    void unlock()
-    {
-        {
-            std::lock_guard<std::mutex> const guard(m_mutex);
-            m_isClosed = false;
-        }
-        m_opened.notify_one();
-    }
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_opened;
-    bool m_isClosed = false;
-};
-
 }  // namespace
 
+/// The main mutex and both counts that others look at, in one word, so that a lock that is free is
+/// taken, and given back, by one exchange. The last reader out unlocks what the first one in has
+/// locked, perhaps on another thread, which a pthread_mutex_t does not allow.
 class ReadWriteMutexImpl
 {
 public:
@@ -79,91 +57,152 @@ public:
     void assertNoReadLockFromThisThread();
 
 private:
-    /// Counts the calling thread in, unless it is the writer.
-    bool isFirstReader();
-    /// Counts one reader out, unless a writer is inside.
-    bool wasLastReader();
-    bool isNestedWriter();
+    using Word = std::uint64_t;
 
-    // Held by the writer, or on behalf of all readers together.
-    Gate m_mainMutex;
-    // The default is no thread.
-    boost::thread::id m_writer;
+    // The main mutex: held by the writer, or on behalf of all readers together.
+    static Word constexpr k_isLocked = 1;
+    // Whether the writer count is not 0.
+    static Word constexpr k_hasWriter = 2;
+    // Whether to wake someone when the main mutex is unlocked.
+    static Word constexpr k_isAwaited = 4;
+    // The upper half counts the readers, signed.
+    static Word constexpr k_reader = Word(1) << 32;
+
+    static std::int32_t readers(Word word) { return static_cast<std::int32_t>(word >> 32); }
+
+    bool isWriter() const;
+    /// Locks the main mutex, and sets `bits` with it.
+    void lockMain(Word bits);
+    void waitForMain(Word bits);
+    void wakeOne();
+
+    std::atomic<Word> m_word{0};
+    // No thread is 0.
+    std::atomic<pthread_t> m_writer{0};
+    // The writer's own business.
     int m_writerCount = 0;
-    std::map<boost::thread::id, int> m_readers;
-    // Guards every other field. The main mutex is never locked while this is held.
+    // Guards what follows. Never held while anyone waits.
     StateMutex m_stateMutex;
-    int m_readerCount = 0;
+    std::condition_variable_any m_unlocked;
+    int m_numWaiting = 0;
+    std::map<boost::thread::id, int> m_readers;
 };
 
-bool ReadWriteMutexImpl::isFirstReader()
+bool ReadWriteMutexImpl::isWriter() const
+{
+    return m_writer.load(std::memory_order_relaxed) == pthread_self();
+}
+
+void ReadWriteMutexImpl::lockMain(Word bits)
+{
+    Word word = m_word.load(std::memory_order_relaxed);
+    while ((word & k_isLocked) == 0) {
+        if (m_word.compare_exchange_weak(word, word | k_isLocked | bits, std::memory_order_acquire,
+                                         std::memory_order_relaxed)) {
+            return;
+        }
+    }
+    waitForMain(bits);
+}
+
+void ReadWriteMutexImpl::waitForMain(Word bits)
+{
+    std::unique_lock<StateMutex> state(m_stateMutex);
+    ++m_numWaiting;
+    Word word = m_word.load(std::memory_order_relaxed);
+    for (;;) {
+        if ((word & k_isLocked) == 0) {
+            Word const others = m_numWaiting > 1 ? k_isAwaited : 0;
+            Word const taken = (word & ~k_isAwaited) | others | k_isLocked | bits;
+            if (m_word.compare_exchange_weak(word, taken, std::memory_order_acquire,
+                                             std::memory_order_relaxed)) {
+                break;
+            }
+        } else if ((word & k_isAwaited) == 0) {
+            // Who unlocks after this sees it, and cannot wake before the wait below has begun.
+            m_word.compare_exchange_weak(word, word | k_isAwaited, std::memory_order_relaxed,
+                                         std::memory_order_relaxed);
+            word = m_word.load(std::memory_order_relaxed);
+        } else {
+            m_unlocked.wait(state);
+            word = m_word.load(std::memory_order_relaxed);
+        }
+    }
+    --m_numWaiting;
+}
+
+void ReadWriteMutexImpl::wakeOne()
 {
     StateLock const state(m_stateMutex);
-    if (m_writer == boost::this_thread::get_id()) {
-        return false;
-    }
-    ++m_readerCount;
-    return m_readerCount == 1;
+    m_unlocked.notify_one();
 }
 
 void ReadWriteMutexImpl::acquireReadLock()
 {
-    if (isFirstReader()) {
-        m_mainMutex.lock();
+    if (isWriter()) {
+        return;
     }
-}
-
-bool ReadWriteMutexImpl::wasLastReader()
-{
-    StateLock const state(m_stateMutex);
-    // Kept so: the writer's own nested read locks were not counted in, and are told from other
-    // readers by the writer count alone. So a reader that slipped in beside a writer, and leaves
-    // before it, is never counted out.
-    if (m_writerCount != 0) {
-        return false;
+    Word word = m_word.load(std::memory_order_relaxed);
+    Word counted;
+    do {
+        counted = word + k_reader;
+        // The first one in locks the main mutex, if nobody holds it, in the same step.
+        if (readers(counted) == 1) {
+            counted |= k_isLocked;
+        }
+    } while (!m_word.compare_exchange_weak(word, counted, std::memory_order_acquire,
+                                           std::memory_order_relaxed));
+    if (readers(counted) == 1 && (word & k_isLocked) != 0) {
+        lockMain(0);
     }
-    --m_readerCount;
-    return m_readerCount == 0;
 }
 
 void ReadWriteMutexImpl::releaseReadLock()
 {
-    if (wasLastReader()) {
-        m_mainMutex.unlock();
+    Word word = m_word.load(std::memory_order_relaxed);
+    Word counted;
+    do {
+        // Kept so: the writer's own nested read locks were not counted in, and are told from other
+        // readers by the writer count alone. So a reader that slipped in beside a writer, and
+        // leaves before it, is never counted out.
+        if ((word & k_hasWriter) != 0) {
+            return;
+        }
+        counted = word - k_reader;
+        if (readers(counted) == 0) {
+            counted &= ~k_isLocked;
+        }
+    } while (!m_word.compare_exchange_weak(word, counted, std::memory_order_release,
+                                           std::memory_order_relaxed));
+    if (readers(counted) == 0 && (word & k_isAwaited) != 0) {
+        wakeOne();
     }
-}
-
-bool ReadWriteMutexImpl::isNestedWriter()
-{
-    StateLock const state(m_stateMutex);
-    if (m_writer != boost::this_thread::get_id()) {
-        return false;
-    }
-    ++m_writerCount;
-    return true;
 }
 
 void ReadWriteMutexImpl::acquireWriteLock()
 {
-    if (isNestedWriter()) {
+    if (isWriter()) {
+        ++m_writerCount;
         return;
     }
-    m_mainMutex.lock();
-    StateLock const state(m_stateMutex);
-    m_writer = boost::this_thread::get_id();
+    lockMain(k_hasWriter);
+    m_writer.store(pthread_self(), std::memory_order_relaxed);
     m_writerCount = 1;
 }
 
 void ReadWriteMutexImpl::releaseWriteLock()
 {
-    StateLock const state(m_stateMutex);
-    if (m_writer != boost::this_thread::get_id()) {
+    if (!isWriter()) {
         return;
     }
     --m_writerCount;
-    if (m_writerCount < 1) {
-        m_mainMutex.unlock();
-        m_writer = boost::thread::id();
+    if (m_writerCount > 0) {
+        return;
+    }
+    m_writer.store(0, std::memory_order_relaxed);
+    Word const before = m_word.fetch_and(~(k_isLocked | k_hasWriter), std::memory_order_release);
+    if ((before & k_isAwaited) != 0) {
+        wakeOne();
     }
 }
 

@@ -23,7 +23,10 @@ public:
     /// @throws boost::bad_weak_ptr when the project is gone; a destructor must not ask
     ReadWriteMutex& mutex() const override
     {
-        return boost::shared_ptr<ThreadSafe const>(m_project)->mutex();
+        // Every accessor comes here: ask whether the project lives, without a share in it.
+        if (m_project.expired())
+            throwProjectIsGone();
+        return m_owner->mutex();
     }
 
     std::string description() const override;
@@ -33,7 +36,11 @@ protected:
     SubProject& operator=(SubProject const&) = default;
 
 private:
+    [[noreturn]] static void throwProjectIsGone();
+
     boost::weak_ptr<ThreadSafe const> m_project;
+    // Good while m_project is.
+    ThreadSafe const* m_owner;
 };
 
 }  // namespace tarn

@@ -222,7 +222,9 @@ boost::shared_ptr<ConstMediaList> Track::collidingMedia(boost::shared_ptr<Media 
     if (!includeLinks) {
         return result;
     }
-    for (auto link = media->linkBegin(); link != media->linkEnd(); ++link) {
+    // The plain iterators: those of a const media would each take a lock of their own.
+    boost::shared_ptr<Media> const own = boost::const_pointer_cast<Media>(media);
+    for (auto link = own->linkBegin(); link != own->linkEnd(); ++link) {
         auto const linked = lockMediaAndTrack<Media const, Track const>(*link);
         if (!sameRange(media->trackRange(), linked.first->trackRange())) {
             throw LinkException(media->trackRange(), linked.first->trackRange());

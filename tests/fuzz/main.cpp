@@ -1,0 +1,169 @@
+#include "fuzz/Generator.h"
+#include "fuzz/KnownLimits.h"
+#include "fuzz/Session.h"
+#include "fuzz/Shrinker.h"
+
+#include <boost/filesystem.hpp>
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <iomanip>
+#include <iostream>
+#include <map>
+#include <string>
+
+namespace {
+
+using tarn::test::Figures;
+using tarn::test::Script;
+using tarn::test::Session;
+
+struct Options
+{
+    std::uint64_t seed = 1;
+    std::size_t commands = 20000;
+    int sessionLength = 150;
+    std::size_t maxFaults = 5;
+    std::string xmlFile;
+    bool showsOps = false;
+};
+
+Options parse(int argc, char** argv)
+{
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        std::string const option = argv[i];
+        if (option == "--ops") {
+            options.showsOps = true;
+            continue;
+        }
+        if (i + 1 == argc)
+            throw std::invalid_argument(option);
+        std::string const value = argv[++i];
+        if (option == "--seed")
+            options.seed = std::stoull(value);
+        else if (option == "--commands")
+            options.commands = std::stoull(value);
+        else if (option == "--session-length")
+            options.sessionLength = std::stoi(value);
+        else if (option == "--max-faults")
+            options.maxFaults = std::stoull(value);
+        else if (option == "--xml")
+            options.xmlFile = value;
+        else
+            throw std::invalid_argument(option);
+    }
+    return options;
+}
+
+/// Of this process, in KiB.
+long residentSize()
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.compare(0, 6, "VmRSS:") == 0)
+            return std::atol(line.c_str() + 6);
+    return 0;
+}
+
+std::size_t openDescriptors()
+{
+    boost::filesystem::directory_iterator const files("/proc/self/fd");
+    return static_cast<std::size_t>(std::distance(files, boost::filesystem::directory_iterator()));
+}
+
+void printSizes(char const* when)
+{
+    std::cout << when << ": " << residentSize() / 1024 << " MiB resident, " << openDescriptors()
+              << " descriptors\n";
+}
+
+void printFault(Session const& session, Script const& script)
+{
+    std::cout << "\nFAULT at seed " << script.seed << ": " << session.fault() << '\n'
+              << session.details() << "shrinking ...\n"
+              << std::flush;
+    Session last(tarn::test::shrunk(script, session.fault()));
+    last.run();
+    std::cout << last.asTest() << last.details() << std::flush;
+}
+
+void printOps(Figures const& figures)
+{
+    for (std::size_t i = 0; i < figures.done.size(); ++i) {
+        tarn::test::Op const op = static_cast<tarn::test::Op>(i);
+        if (isCommand(op))
+            std::cout << "  " << std::setw(20) << std::left << name(op) << std::right
+                      << std::setw(9) << figures.done[i] << " done" << std::setw(9)
+                      << figures.refusedOf[i] << " refused\n";
+    }
+}
+
+void printLimits(Figures const& figures)
+{
+    std::cout << "sessions ended by a known limit:\n";
+    for (tarn::test::KnownLimit const& limit : tarn::test::knownLimits()) {
+        auto const found = figures.limits.find(limit.name);
+        std::cout << std::setw(9) << (found == figures.limits.end() ? 0 : found->second) << "  "
+                  << limit.name << '\n';
+    }
+}
+
+/// @return whether there was no fault
+bool run(Options const& options)
+{
+    std::ofstream xml(options.xmlFile);
+    Figures figures;
+    std::map<std::string, std::size_t> faults;
+    std::size_t sessions = 0;
+    auto const begin = std::chrono::steady_clock::now();
+    std::size_t nextReport = options.commands / 10;
+    for (std::uint64_t seed = options.seed; figures.commands < options.commands; ++seed) {
+        Script const script = tarn::test::generate(seed, options.sessionLength);
+        Session session(script);
+        bool const isFine = session.run();
+        ++sessions;
+        figures.add(session.figures());
+        if (!isFine && faults[session.fault()]++ == 0)
+            printFault(session, script);
+        if (faults.size() >= options.maxFaults)
+            break;
+        if (!options.xmlFile.empty())
+            xml << "seed " << seed << '\n' << session.xml();
+        if (figures.commands >= nextReport) {
+            printSizes((std::to_string(figures.commands) + " commands").c_str());
+            nextReport += options.commands / 10;
+        }
+    }
+    std::chrono::duration<double> const seconds = std::chrono::steady_clock::now() - begin;
+    std::size_t numFaults = 0;
+    for (auto const& fault : faults)
+        numFaults += fault.second;
+    std::cout << figures.commands << " commands (" << figures.refused << " of them refused) and "
+              << figures.historySteps << " other history steps in " << sessions << " sessions, "
+              << figures.comparisons << " comparisons of models, " << figures.naiveAnswers
+              << " answers of the naive model, " << seconds.count() << " s\n";
+    printLimits(figures);
+    if (options.showsOps)
+        printOps(figures);
+    for (auto const& fault : faults)
+        std::cout << std::setw(9) << fault.second << "  FAULT " << fault.first << '\n';
+    std::cout << numFaults << " unlisted differences\n";
+    return numFaults == 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return run(parse(argc, argv)) ? EXIT_SUCCESS : EXIT_FAILURE;
+    } catch (std::exception const& error) {
+        std::cerr << "fuzz_edits: " << error.what()
+                  << "\nusage: fuzz_edits [--seed N] [--commands M] [--session-length L]"
+                     " [--max-faults F] [--xml FILE] [--ops]\n";
+        return 2;
+    }
+}
