@@ -23,6 +23,9 @@ namespace {
 
 std::size_t const k_shownDifferences = 12;
 
+/// The undo limit of a long session.
+int const k_longLimit = 40;
+
 /// The stage outside a test.
 class FuzzStage : public Stage
 {
@@ -109,13 +112,20 @@ void Figures::add(Figures const& other)
         limits[limit.first] += limit.second;
 }
 
-Session::Session(Script const& script) : m_script(script), m_stage(new FuzzStage) {}
+Session::Session(Script const& script, boost::shared_ptr<InternalProject> const& project)
+    : m_script(script), m_isPart(project), m_stage(new FuzzStage)
+{
+    if (project)
+        m_stage->takeOver(project);
+}
 
 Session::~Session() = default;
 
 bool Session::run()
 {
     m_stage->begin(m_script.strip);
+    if (m_isPart)
+        setLimit(k_longLimit);
     m_model = model();
     m_naive.copy(*m_stage);
     try {
@@ -301,10 +311,7 @@ void Session::runHistoryStep(Step const& step)
         m_combinesNext = true;
         break;
     case Op::UndoLimit:
-        m_limit = limits[step.numbers[0] % 6];
-        write("", "project->commandHistory()->setUndoLimit(" + std::to_string(m_limit) + ");");
-        project.commandHistory()->setUndoLimit(m_limit);
-        applyLimit();
+        setLimit(limits[m_isPart ? 2 + step.numbers[0] % 4 : step.numbers[0] % 6]);
         compare({step.op}, Phase::Executed, m_model, model());
         break;
     case Op::TakeSnapshot:
@@ -399,6 +406,14 @@ void Session::combineRecords()
     m_undo.back().ops.insert(second.ops.begin(), second.ops.end());
     if (m_undo.back().op != second.op)
         m_undo.back().op = Op::Pair;
+}
+
+void Session::setLimit(int limit)
+{
+    m_limit = limit;
+    write("", "project->commandHistory()->setUndoLimit(" + std::to_string(m_limit) + ");");
+    m_stage->project->commandHistory()->setUndoLimit(m_limit);
+    applyLimit();
 }
 
 void Session::applyLimit()

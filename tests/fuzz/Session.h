@@ -46,7 +46,10 @@ struct Figures
 class Session
 {
 public:
-    explicit Session(Script const& script);
+    /// With a project, the session is one part of a long one: it begins by emptying that project,
+    /// which never has more than some commands to undo.
+    explicit Session(Script const& script, boost::shared_ptr<InternalProject> const& project =
+                                               boost::shared_ptr<InternalProject>());
     ~Session();
 
     /// @return whether no fault was found
@@ -84,6 +87,7 @@ private:
     {
     };
 
+    void setLimit(int limit);
     void runStep(Step const& step);
     void runCommand(Step const& step);
     void checkRefused(Op op, std::string const& thrown, NaiveModel::Outcome predicted);
@@ -107,6 +111,7 @@ private:
     void write(std::string const& code, std::string const& ending);
 
     Script m_script;
+    bool m_isPart;
     std::unique_ptr<Stage> m_stage;
     NaiveModel m_naive;
     Figures m_figures;
