@@ -16,7 +16,7 @@ void CommandMaker::makeNullArgument()
     NullEdit const& edit = nullEdits()[below(nullEdits().size())];
     also("boost::shared_ptr<Track> const on = track(\"" + media.on.name + "\");");
     also("boost::shared_ptr<Media> const it = " + media.code + ";");
-    set(edit.make(m_stage, media.on.track, media.media), edit.code);
+    set(edit.make(m_stage, media.on.track, media.media), edit.code());
 }
 
 }  // namespace test

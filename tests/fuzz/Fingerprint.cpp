@@ -13,6 +13,7 @@
 #include "parameters/Attribute.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/KeyFrame.h"
+#include "parameters/LeftParameter.h"
 #include "parameters/MTVector.h"
 #include "parameters/Parameter.h"
 #include "timeline/AbstractVisualTrack.h"
@@ -96,17 +97,30 @@ void mixFrames(std::uint64_t& sum, Parameter<T> const& parameter)
         mix(sum, bits(time));
         mix(sum, valueBits(parameter.keyframeAtTime(time)->value()));
     }
-    if (auto const interpolaters = parameter.interpolaterParam())
-        mixFrames(sum, *interpolaters);
 }
+
+/// Only what is blended has interpolaters.
+template <class T>
+void mixInterpolaters(std::uint64_t&, Parameter<T> const&)
+{}
+#define TARN_MIX(T)                                                                                \
+    void mixInterpolaters(std::uint64_t& sum, Parameter<T> const& parameter)                       \
+    {                                                                                              \
+        if (auto const interpolaters = parameter.interpolaterParam())                              \
+            mixFrames(sum, *interpolaters);                                                        \
+    }
+TARN_INTERPOLATING_TYPES(TARN_MIX)
+#undef TARN_MIX
 
 /// @return whether the parameter is of that type
 template <class T>
 bool mixIfOfType(std::uint64_t& sum, ParameterInterface const& parameter)
 {
     auto const* const typed = dynamic_cast<Parameter<T> const*>(&parameter);
-    if (typed)
+    if (typed) {
         mixFrames(sum, *typed);
+        mixInterpolaters(sum, *typed);
+    }
     return typed;
 }
 

@@ -79,9 +79,13 @@
 
 namespace tarn {
 namespace test {
+std::string NullEdit::code() const
+{
+    return boost::algorithm::replace_all_copy(std::string(text), "stage.", "");
+}
+
 std::vector<NullEdit> const& nullEdits()
 {
-// A test of the stage is the stage.
 #define TARN_EDIT(...)                                                                             \
     {                                                                                              \
         [](Stage const& stage, boost::shared_ptr<Track> const& on,                                 \
@@ -91,7 +95,7 @@ std::vector<NullEdit> const& nullEdits()
             static_cast<void>(it);                                                                 \
             return boost::shared_ptr<Command>(__VA_ARGS__);                                        \
         },                                                                                         \
-            boost::algorithm::replace_all_copy(std::string(#__VA_ARGS__), "stage.", "")            \
+            #__VA_ARGS__                                                                           \
     }
     static std::vector<NullEdit> const edits = {
         TARN_EDIT(AddEffectCmd::create(boost::shared_ptr<Effectable>(), stage.blur())),
@@ -198,8 +202,9 @@ std::vector<NullEdit> const& nullEdits()
                                             boost::shared_ptr<Track>(), on)),
         TARN_EDIT(SwapTrackOrderCmd::create(stage.timeline()->visualMixer(), on,
                                             boost::shared_ptr<Track>())),
-        TARN_EDIT(SetAttributeValueCmd<std::string>::create(
-            boost::shared_ptr<Attribute<std::string>>(), "value")),
+        TARN_EDIT(SetAttributeValueCmd<boost::shared_ptr<ScreenMetaData const>>::create(
+            boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>>>(),
+            stage.metaData())),
         TARN_EDIT(ChangeAttributeCmd<std::string>::create(
             boost::shared_ptr<Attribute<std::string>>(), "value")),
     };

@@ -21,8 +21,10 @@ struct NullEdit
                                                  boost::shared_ptr<Media> const& it);
 
     Maker make;
-    /// The same as text, for a test of the stage.
-    std::string code;
+    /// The same as text.
+    char const* text;
+    /// Its text for a test of the stage, which is the stage itself.
+    std::string code() const;
 };
 
 /// A command given a track, or a media for a track, in one expression.

@@ -18,7 +18,7 @@ TEST_P(NullEditsTest, IsRefusedAndChangesNothing)
 {
     begin("V1: aaa..bb / A1: aaa..bb");
     NullEdit const& edit = nullEdits()[GetParam()];
-    SCOPED_TRACE(edit.code);
+    SCOPED_TRACE(edit.text);
     EXPECT_TRUE(refuses<TarnMediaLibException>(edit.make(*this, track("V1"), media("V1.a"))));
 }
 

@@ -6,6 +6,7 @@
 #include "fuzz/NaiveModel.h"
 
 #include "commands/CommandHistoryState.h"
+#include "project/InternalProject.h"
 
 #include <boost/shared_ptr.hpp>
 

@@ -10,6 +10,7 @@
 #include "datatypes/Point.h"
 #include "edgemods/EdgeModification.h"
 #include "edgemods/MixerXSlideInFunc.h"
+#include "parameters/Interpolater.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/VectorParam.h"
 #include "timeline/HitTester.h"
@@ -20,6 +21,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <memory>
 #include <vector>
 
 namespace tarn {
