@@ -116,8 +116,8 @@ public:
     /// @throws ValueException<boost::shared_ptr<Media const>> when the media is not on this track
     /// @throws CollisionException with the medias in the way
     /// @throws LinkException when the track ranges of linked medias differ
-    /// @throws DanglingWeakPtrException<Media const> or <Track const> for a dead link
-    /// @throws ValueException<long long> or <double> when the media itself refuses the edit
+    /// @throws DanglingWeakPtrException<Media const> or `<Track const>` for a dead link
+    /// @throws ValueException<long long> or `<double>` when the media itself refuses the edit
     /// @{
     void move(boost::shared_ptr<Media const> const& media, long long offset, bool includeLinks);
     void trimStart(boost::shared_ptr<Media const> const& media, long long offset,
@@ -198,7 +198,7 @@ public:
 
     /// The media behind a link, and the track it is on. For (Media, Track) and (Media const, Track
     /// const).
-    /// @throws DanglingWeakPtrException<Media const> or <Track const>
+    /// @throws DanglingWeakPtrException<Media const> or `<Track const>`
     template <class M, class T>
     std::pair<boost::shared_ptr<M>, boost::shared_ptr<T>> lockMediaAndTrack(
         boost::weak_ptr<M> const& link) const;
