@@ -34,7 +34,9 @@ public:
     std::string fileName() const;
     std::string containerFileName() const;
 
+    /// Whether it is of that very source; false for an empty one.
     bool isInstanceOf(boost::shared_ptr<Source const> const& source) const;
+    /// For a source's own medias only, which must not keep their source alive.
     void holdSourceWeakly();
 
     /// Empty without a source.

@@ -18,8 +18,10 @@ public:
 
     boost::shared_ptr<Source const> source() const;
     unsigned int trackNumber() const;
+    /// Whether it is of that very source; false for an empty one.
     bool isInstanceOf(boost::shared_ptr<Source const> const& source) const;
     std::string sourceXmlIdent() const;
+    /// For a source's own medias only, which must not keep their source alive.
     void holdSourceWeakly();
 
 private:
