@@ -14,14 +14,17 @@ class TARN_API EdgeModCommandHandler
 public:
     virtual ~EdgeModCommandHandler() = default;
 
+    /// Edit units; any length is kept.
     virtual void setLeftEdgeModificationLength(
         boost::shared_ptr<EdgeModifiable const> const& edgeModifiable, long long length) = 0;
+    /// Edit units; any length is kept.
     virtual void setRightEdgeModificationLength(
         boost::shared_ptr<EdgeModifiable const> const& edgeModifiable, long long length) = 0;
     /// @throws TarnMediaLibException when the parameter has a modification on that edge
     virtual void addLeftEdgeModification(
         boost::shared_ptr<EdgeModifiable const> const& edgeModifiable,
         EdgeModification const& modification) = 0;
+    /// @throws TarnMediaLibException when the parameter has a modification on that edge
     virtual void addRightEdgeModification(
         boost::shared_ptr<EdgeModifiable const> const& edgeModifiable,
         EdgeModification const& modification) = 0;
@@ -30,6 +33,8 @@ public:
     virtual EdgeModification removeLeftEdgeModification(
         boost::shared_ptr<EdgeModifiable const> const& edgeModifiable,
         boost::shared_ptr<Parameter<double> const> const& parameter) = 0;
+    /// @returns the removed modification
+    /// @throws TarnMediaLibException when the parameter has no modification on that edge
     virtual EdgeModification removeRightEdgeModification(
         boost::shared_ptr<EdgeModifiable const> const& edgeModifiable,
         boost::shared_ptr<Parameter<double> const> const& parameter) = 0;
