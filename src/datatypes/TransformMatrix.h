@@ -23,6 +23,7 @@ public:
 
     std::string description() const override;
 
+    /// The element in that row and column.
     double& at(int row, int column) { return m_elements[row * 4 + column]; }
     double at(int row, int column) const { return m_elements[row * 4 + column]; }
     double& operator()(int row, int column) { return at(row, column); }
@@ -58,18 +59,23 @@ public:
     void rowOpMultiply(int row, double factor);
     /// Adds factor times row `added` to `row`.
     void rowOpAddRow(int row, int added, double factor);
+    /// Exchanges two rows.
     void rowOpSwapRow(int row1, int row2);
 
     /// Divides each column by its bottom element.
     void normalizeColumnVectors();
 
+    /// Factors along each axis.
     static TransformMatrix scale(double x, double y, double z);
+    /// By so much along each axis.
     static TransformMatrix translate(double x, double y, double z);
     /// Angles in radians, whose sign is lost: a negative one shears like a positive one.
     static TransformMatrix shear(double angleX, double angleY);
     /// Angles in radians.
     static TransformMatrix rotateAroundX(double angle);
+    /// Radians, from z towards x.
     static TransformMatrix rotateAroundY(double angle);
+    /// Radians, from x towards y.
     static TransformMatrix rotateAroundZ(double angle);
     /// Onto the plane z = `planeZ`, seen from `eye`.
     static TransformMatrix perspectiveProjection(Point const& eye, double planeZ);
@@ -79,6 +85,9 @@ public:
     /// Left-handed and transposed, meant for points as rows.
     static TransformMatrix perspectiveProjectionLH(double fovY, double aspect, double nearDistance,
                                                    double farDistance);
+    /// From the scene to an eye that looks along -z: rows s, u, -f of f = lookAt - eye, s = f x up,
+    /// u = s x f, f and up one long.
+    /// Kept so: the last column is the eye negated as it stands, not turned.
     static TransformMatrix cameraLookAt(Point const& eye, Point const& lookAt, Point const& up);
     /// Left-handed and transposed, meant for points as rows.
     static TransformMatrix cameraLookAtLH(Point const& eye, Point const& lookAt, Point const& up);
