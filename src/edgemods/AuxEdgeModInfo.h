@@ -13,10 +13,12 @@ namespace tarn {
 class TARN_API AuxEdgeModInfo
 {
 public:
+    /// The mixer across which the media is seen.
     void setVisualMixer(boost::weak_ptr<VisualMixer const> const& visualMixer)
     {
         m_visualMixer = visualMixer;
     }
+    /// The media that the function is on.
     void setVisualMedia(boost::weak_ptr<VisualMedia const> const& visualMedia)
     {
         m_visualMedia = visualMedia;

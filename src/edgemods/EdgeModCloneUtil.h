@@ -27,6 +27,7 @@ TARN_API EdgeModification createEdgeMod(Media* target, EdgeModification const& m
 /// business.
 /// @throws TarnMediaLibException when such a parameter of `target` has a modification already
 TARN_API void setupLeftMods(Media* target, Media const& source);
+/// The same for the edge at the end.
 TARN_API void setupRightMods(Media* target, Media const& source);
 
 }  // namespace EdgeModCloneUtil
