@@ -58,6 +58,7 @@ public:
     virtual boost::shared_ptr<Timeline> timeline() const = 0;
     virtual boost::shared_ptr<SourceBin> sourceBin() const = 0;
     virtual boost::shared_ptr<CommandHistory> commandHistory() const = 0;
+    /// What was copied; owned by the project, as are those above.
     virtual boost::shared_ptr<ClipBoard> clipBoard() = 0;
 
     /// Not undoable. Takes the write lock, and calls no command observer.
