@@ -25,7 +25,8 @@ using RemovedMedias =
 ///
 /// A command is handed one by the history. A host may wrap the project's own to watch or change
 /// what commands do (InternalProject::setCommandHandler). Times and offsets are edit units; the
-/// model's classes say what each operation does and throws.
+/// model's classes say what each operation does and throws. Every call comes under the write lock
+/// that the running edit holds; what throws has changed nothing.
 class TARN_API CommandHandler
 {
 public:
@@ -75,7 +76,7 @@ public:
                                 boost::shared_ptr<Track const> const& track1,
                                 boost::shared_ptr<Track const> const& track2) = 0;
 
-    /// Puts a parentless media on a track.
+    /// Puts a parentless media on a track; one with a parent must not be passed.
     /// @throws CollisionException with the medias in the way
     /// @throws TypeException for a kind that the track does not take
     /// @throws TarnMediaLibException for a media whose source is not the project's

@@ -8,7 +8,8 @@
 
 namespace tarn {
 
-/// The primitive edits of edges, as commands see them. Each acts at once and records nothing.
+/// The primitive edits of edges, as commands see them. Each acts at once and records nothing. Every
+/// call comes under the write lock that the running edit holds.
 class TARN_API EdgeModCommandHandler
 {
 public:

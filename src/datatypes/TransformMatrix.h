@@ -10,7 +10,8 @@
 namespace tarn {
 
 /// A 4 x 4 matrix, row-major. Points are columns, so the matrix stands on their left and a
-/// translation lies in its last column. Rows and columns count from 0 and are not bounds-tested.
+/// translation lies in its last column. Rows and columns count from 0 and are not bounds-tested. A
+/// value, without a lock; nothing is thrown.
 class TARN_API TransformMatrix : public TarnObject
 {
 public:

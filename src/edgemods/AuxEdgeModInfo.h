@@ -9,7 +9,7 @@ namespace tarn {
 
 /// Where the media of an edge function is seen, for functions that measure against the mixer.
 ///
-/// Both are set or both are empty; neither is kept alive.
+/// Both are set or both are empty; neither is kept alive. A value, without a lock.
 class TARN_API AuxEdgeModInfo
 {
 public:

@@ -12,7 +12,7 @@
 namespace tarn {
 
 /// Edge modifications for a clone: those of the original name the original's parameters, and the
-/// clone's must name its own.
+/// clone's must name its own. For edits, under the write lock.
 namespace EdgeModCloneUtil {
 
 /// The first parameter of that name; null if there is none, or it is not one of doubles.

@@ -6,7 +6,8 @@
 
 namespace tarn {
 
-/// The way from a file-backed picture to its source. Owned by the media, never a base of one.
+/// The way from a file-backed picture to its source. Owned by the media, never a base of one. No
+/// lock, as SourceTrack.
 class TARN_API VisualFileMedia : public TarnObject, public FileRepresentation
 {
 public:
