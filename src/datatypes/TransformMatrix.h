@@ -78,12 +78,14 @@ public:
     static TransformMatrix rotateAroundY(double angle);
     /// Radians, from x towards y.
     static TransformMatrix rotateAroundZ(double angle);
-    /// Onto the plane z = `planeZ`, seen from `eye`.
+    /// Onto the plane z = `planeZ`, seen from `eye`: each point goes to where its line to the eye
+    /// meets the plane. Not finite for an eye in that plane.
     static TransformMatrix perspectiveProjection(Point const& eye, double planeZ);
-    /// `fovY` in radians, `aspect` is width by height.
+    /// `fovY` in radians, `aspect` is width by height: with f = cot(fovY / 2), x by f / aspect and
+    /// y by f, both over -z; depth from -1 at the near distance to 1 at the far one.
     static TransformMatrix perspectiveProjection(double fovY, double aspect, double nearDistance,
                                                  double farDistance);
-    /// Left-handed and transposed, meant for points as rows.
+    /// Left-handed and transposed, meant for points as rows; depth from 0 to 1.
     static TransformMatrix perspectiveProjectionLH(double fovY, double aspect, double nearDistance,
                                                    double farDistance);
     /// From the scene to an eye that looks along -z: rows s, u, -f of f = lookAt - eye, s = f x up,

@@ -67,7 +67,8 @@ public:
     TransformMatrix cameraTransformAtTime(long long time) const;
     /// Left-handed and transposed, meant for points as rows.
     TransformMatrix cameraTransformAtTimeLH(long long time) const;
-    /// The field of view follows from the viewport's height and the distance to what is looked at.
+    /// The field of view follows from the viewport's height h and the distance d to what is looked
+    /// at, 2 atan(h / 2d), so that one unit there is one pixel.
     TransformMatrix projectionTransformAtTime(long long time, Rect<int> const& viewport) const;
     /// Left-handed and transposed, meant for points as rows.
     TransformMatrix projectionTransformAtTimeLH(long long time, Rect<int> const& viewport) const;
