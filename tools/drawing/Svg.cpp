@@ -1,6 +1,8 @@
-#include "Svg.h"
+#include "drawing/Svg.h"
 
 #include <fstream>
+
+namespace tarn::drawing {
 
 namespace {
 
@@ -64,9 +66,17 @@ void Svg::text(double x, double y, std::string const& words, std::string const& 
            << escaped(words) << "</text>\n";
 }
 
+void Svg::writeTo(std::ostream& out) const
+{
+    out << m_body.str() << "</svg>\n";
+}
+
 bool Svg::writeTo(std::string const& path) const
 {
     std::ofstream file(path);
-    file << m_body.str() << "</svg>\n";
+    writeTo(file);
+    file.close();
     return static_cast<bool>(file);
 }
+
+}  // namespace tarn::drawing

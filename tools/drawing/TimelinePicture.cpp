@@ -1,6 +1,6 @@
-#include "TimelinePicture.h"
+#include "drawing/TimelinePicture.h"
 
-#include "Svg.h"
+#include "drawing/Svg.h"
 
 #include <TarnMediaLib/edgemods/EdgeModFunc.h>
 #include <TarnMediaLib/edgemods/EdgeModification.h>
@@ -17,6 +17,8 @@
 #include <set>
 #include <vector>
 
+namespace tarn::drawing {
+
 namespace {
 
 double const k_left = 70;
@@ -28,17 +30,17 @@ double const k_width = 1100;
 struct Row
 {
     std::string name;
-    boost::shared_ptr<tarn::Track const> track;
+    boost::shared_ptr<Track const> track;
 };
 
-std::vector<Row> rowsOf(tarn::Timeline const& timeline)
+std::vector<Row> rowsOf(Timeline const& timeline)
 {
     std::vector<Row> rows;
     // The last visual track is the front of the picture, and so stands on top.
-    if (boost::shared_ptr<tarn::VisualMixer const> const mixer = timeline.visualMixer())
+    if (boost::shared_ptr<VisualMixer const> const mixer = timeline.visualMixer())
         for (unsigned i = static_cast<unsigned>(mixer->numTracks()); i-- > 0;)
             rows.push_back({"V" + std::to_string(i + 1), mixer->trackAtIndex(i)});
-    if (boost::shared_ptr<tarn::AudioMixer const> const mixer = timeline.audioMixer())
+    if (boost::shared_ptr<AudioMixer const> const mixer = timeline.audioMixer())
         for (unsigned i = 0; i < static_cast<unsigned>(mixer->numTracks()); ++i)
             rows.push_back({"A" + std::to_string(i + 1), mixer->trackAtIndex(i)});
     return rows;
@@ -47,7 +49,7 @@ std::vector<Row> rowsOf(tarn::Timeline const& timeline)
 class Drawing
 {
 public:
-    Drawing(tarn::Timeline const& timeline, std::vector<Row> const& rows)
+    Drawing(Timeline const& timeline, std::vector<Row> const& rows)
         : m_rows(rows)
         , m_scale((k_width - k_left - 30) / std::max<double>(1, double(timeline.endTime())))
         , m_svg(k_width, k_top + k_rowHeight * double(rows.size()) + 30, "#1e2127")
@@ -58,7 +60,7 @@ public:
         drawLinks();
     }
 
-    bool writeTo(std::string const& path) const { return m_svg.writeTo(path); }
+    Svg const& svg() const { return m_svg; }
 
 private:
     double x(long long time) const { return k_left + double(time) * m_scale; }
@@ -81,9 +83,9 @@ private:
             drawMedia(*entry->second, row.name[0] == 'V', top);
     }
 
-    void drawMedia(tarn::Media const& media, bool visual, double top)
+    void drawMedia(Media const& media, bool visual, double top)
     {
-        tarn::Range<long long> const range = media.trackRange();
+        Range<long long> const range = media.trackRange();
         double const width = double(range.duration) * m_scale;
         m_places[&media] = {x(range.start) + width / 2, top + k_boxHeight / 2};
         m_svg.rect(x(range.start), top, width, k_boxHeight,
@@ -97,7 +99,7 @@ private:
             m_svg.text(x(range.start) + 5, top + 14, words, "fill:white;font-size:10px");
     }
 
-    void drawEdges(tarn::Media const& media, double top)
+    void drawEdges(Media const& media, double top)
     {
         std::string const style = "fill:#ffffff;fill-opacity:0.25";
         double const left = x(media.startTime());
@@ -114,7 +116,7 @@ private:
         }
     }
 
-    void drawKeyFrames(tarn::Media const& media, double top)
+    void drawKeyFrames(Media const& media, double top)
     {
         std::set<long long> times;
         {
@@ -145,7 +147,7 @@ private:
                 drawLinksOf(*entry->second);
     }
 
-    void drawLinksOf(tarn::Media const& media)
+    void drawLinksOf(Media const& media)
     {
         for (auto link = media.linkBegin(); link != media.linkEnd(); ++link) {
             auto const other = m_places.find(link->lock().get());
@@ -165,12 +167,19 @@ private:
     std::vector<Row> m_rows;
     double m_scale;
     Svg m_svg;
-    std::map<tarn::Media const*, std::pair<double, double>> m_places;
+    std::map<Media const*, std::pair<double, double>> m_places;
 };
 
 }  // namespace
 
-bool drawTimeline(tarn::Timeline const& timeline, std::string const& path)
+void drawTimeline(Timeline const& timeline, std::ostream& out)
 {
-    return Drawing(timeline, rowsOf(timeline)).writeTo(path);
+    Drawing(timeline, rowsOf(timeline)).svg().writeTo(out);
 }
+
+bool drawTimeline(Timeline const& timeline, std::string const& path)
+{
+    return Drawing(timeline, rowsOf(timeline)).svg().writeTo(path);
+}
+
+}  // namespace tarn::drawing
