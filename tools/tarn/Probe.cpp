@@ -2,6 +2,7 @@
 
 #include "Json.h"
 #include "Progress.h"
+#include "Reason.h"
 #include "Table.h"
 
 #include <TarnMediaLib/clipbin/MediaFileStats.h>
@@ -30,7 +31,7 @@ Probed probeFile(std::string const& file)
     try {
         probed.stats.reset(MediaFileStats::create(file));
     } catch (std::exception const& failure) {
-        probed.failure = failure.what();
+        probed.failure = reasonOf(failure);
     }
     return probed;
 }
@@ -88,7 +89,8 @@ void writeTable(std::vector<Probed> const& files, Colors colors)
                        rateText(track.rangeEditRate), textOf(secondsOf(track)), formatOf(track)});
         }
     }
-    table.write(std::cout, Terminal(1, colors));
+    if (!table.isEmpty())
+        table.write(std::cout, Terminal(1, colors));
 }
 
 void writeRational(Json& json, boost::rational<unsigned long> const& value)

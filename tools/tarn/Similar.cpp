@@ -29,7 +29,8 @@ std::size_t distance(std::string const& a, std::string const& b)
 std::string didYouMean(std::string const& written, std::vector<std::string> const& names)
 {
     std::string best;
-    std::size_t least = std::max<std::size_t>(1, written.size() / 3) + 1;
+    // Two steps make up for two letters in the wrong order.
+    std::size_t least = (written.size() < 4 ? 1 : std::max<std::size_t>(2, written.size() / 3)) + 1;
     for (std::string const& name : names) {
         std::size_t const steps = distance(written, name);
         if (steps < least) {

@@ -16,6 +16,8 @@ public:
 
     void add(std::vector<std::string> const& row) { m_rows.push_back(row); }
 
+    bool isEmpty() const { return m_rows.size() == 1; }
+
     /// Two blanks between columns, none behind the last; heads are strong.
     void write(std::ostream& out, Terminal const& terminal) const;
 

@@ -10,9 +10,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include <iomanip>
 #include <iostream>
-#include <map>
 #include <sstream>
 
 namespace {
@@ -46,13 +44,20 @@ std::string verbHelp()
 /// What was asked for.
 struct Options
 {
-    Colors colors = Colors::Auto;
+    std::string color = "auto";
     std::vector<std::string> files;
     std::string effect;
     std::string script;
     std::string picture;
     bool asJson = false;
     bool asNames = false;
+
+    Colors colors() const
+    {
+        if (color == "always")
+            return Colors::Always;
+        return color == "never" ? Colors::Never : Colors::Auto;
+    }
 };
 
 class CommandLine
@@ -61,13 +66,9 @@ public:
     CommandLine()
     {
         m_app.set_version_flag("--version", versionText());
-        m_app
-            .add_option("--color", m_options.colors, "Colours: auto (on a terminal), always, never")
-            ->transform(
-                CLI::CheckedTransformer(std::map<std::string, Colors>{{"auto", Colors::Auto},
-                                                                      {"always", Colors::Always},
-                                                                      {"never", Colors::Never}})
-                    .description("WHEN"));
+        m_app.add_option("--color", m_options.color, "Colours; auto is on a terminal")
+            ->type_name("WHEN")
+            ->check(CLI::IsMember(std::vector<std::string>{"auto", "always", "never"}));
         m_app.require_subcommand(1);
         m_app.fallthrough();
         addProbe();
@@ -89,7 +90,7 @@ private:
     void addProbe()
     {
         CLI::App* const command = add("probe", "Show the tracks of media files", [this] {
-            return tarn::tool::probe(m_options.files, m_options.asJson, m_options.colors);
+            return tarn::tool::probe(m_options.files, m_options.asJson, m_options.colors());
         });
         command->add_option("FILE", m_options.files, "Media files")->required();
         command->add_flag("--json", m_options.asJson, "As JSON, one object a file");
@@ -101,7 +102,7 @@ private:
             EffectsForm const form = m_options.asJson    ? EffectsForm::Json
                                      : m_options.asNames ? EffectsForm::Names
                                                          : EffectsForm::Table;
-            return tarn::tool::showEffects(m_options.effect, form, m_options.colors);
+            return tarn::tool::showEffects(m_options.effect, form, m_options.colors());
         });
         command->add_option("NAME", m_options.effect, "This effect alone");
         CLI::Option* const json =
@@ -112,13 +113,13 @@ private:
     void addScripts()
     {
         CLI::App* const run = add("run", "Run a script of edits", [this] {
-            return tarn::tool::runScript(m_options.script, m_options.colors);
+            return tarn::tool::runScript(m_options.script, m_options.colors());
         });
         addScriptOption(*run);
         CLI::App* const draw =
             add("draw", "Run a script and draw the timeline that it leaves", [this] {
                 return tarn::tool::drawScript(m_options.script, m_options.picture,
-                                              m_options.colors);
+                                              m_options.colors());
             });
         addScriptOption(*draw);
         draw->add_option("-o,--output", m_options.picture,

@@ -55,8 +55,13 @@ bool writeIfOf(std::ostream& out, boost::shared_ptr<ParameterInterface const> co
 bool isNeutral(ParameterInterface const& any)
 {
     auto const* parameter = dynamic_cast<Parameter<double> const*>(&any);
+    // A type that no script can write says nothing until it is animated.
+    bool const isWritable = parameter || dynamic_cast<Parameter<float> const*>(&any) ||
+                            dynamic_cast<Parameter<Point> const*>(&any) ||
+                            dynamic_cast<Parameter<Color> const*>(&any) ||
+                            dynamic_cast<Parameter<std::string> const*>(&any);
     if (!parameter || parameter->numKeyFrames() != 1)
-        return any.numKeyFrames() == 0;
+        return any.numKeyFrames() < (isWritable ? 1 : 2);
     std::string const name = any.ident();
     bool const isFactor =
         name == "opacity" || name == "volume" || name == "gain" || name.compare(0, 5, "scale") == 0;

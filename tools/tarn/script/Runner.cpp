@@ -1,5 +1,6 @@
 #include "script/Runner.h"
 
+#include "Reason.h"
 #include "script/ModelText.h"
 #include "script/ScriptError.h"
 #include "script/Verb.h"
@@ -23,13 +24,27 @@ ProjectSettings settingsOf(Script const& script)
     return isSaid ? verbs::projectSettings(script.statements.front()) : ProjectSettings();
 }
 
+/// The text without the numbers in `id="7"`: printing draws new ones for copies that it makes.
+std::string withoutIdents(std::string const& xml)
+{
+    std::string const k_ident = " id=\"";
+    std::string text;
+    std::size_t from = 0;
+    for (std::size_t at = xml.find(k_ident); at != std::string::npos; at = xml.find(k_ident, at)) {
+        at += k_ident.size();
+        text.append(xml, from, at - from);
+        from = xml.find('"', at);
+    }
+    return text.append(xml, from, std::string::npos);
+}
+
 /// Everything that can be seen of a project.
 std::string fingerprint(Project const& project)
 {
     std::ostringstream text;
     project.toXML(text);
     project.commandHistory()->toXML(text);
-    return text.str();
+    return withoutIdents(text.str());
 }
 
 }  // namespace
@@ -111,7 +126,7 @@ std::string Runner::reasonOf(std::exception const& failure) const
     }
     if (auto const* key = dynamic_cast<KeyFrameException const*>(&failure))
         return "a key frame is in the way or missing at " + std::to_string(key->time());
-    std::string const text = failure.what();
+    std::string const text = tool::reasonOf(failure);
     return text.empty() ? "something that the edit needs is gone" : text;
 }
 
