@@ -32,7 +32,7 @@ ToolRun tarnTool(std::string const& arguments, std::string const& input)
     std::string const& folder = MediaFiles::folder();
     std::string const in = MediaFiles::written("stdin", input);
     std::string const line =
-        "cd '" + folder + "' && '" TARN_TOOL "' " + arguments + " <stdin >stdout 2>stderr";
+        "cd '" + folder + "' && { '" TARN_TOOL "' " + arguments + "; } <stdin >stdout 2>stderr";
     int const status = std::system(line.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, MediaFiles::content(folder + "/stdout"),
             MediaFiles::content(folder + "/stderr")};
@@ -40,7 +40,8 @@ ToolRun tarnTool(std::string const& arguments, std::string const& input)
 
 void ToolTest::SetUpTestSuite()
 {
-    MediaFiles::made("film.mov", MediaFiles::tone(2) + " " + MediaFiles::picture(60, "30") +
+    MediaFiles::made("film.mov", MediaFiles::tone(2) +
+                                     " -f lavfi -i testsrc2=s=64x48:r=30:d=2 -pix_fmt yuv420p"
                                      " -c:v mpeg4 -c:a pcm_s16le");
     MediaFiles::made("still.png", MediaFiles::picture(1, "30") + " -pix_fmt rgb24");
     MediaFiles::made("tone.wav", MediaFiles::tone(3));

@@ -95,8 +95,9 @@ int execute(std::string const& name, Colors colors, std::ostream& out,
 
 int cannotWrite(std::string const& picture, Colors colors)
 {
+    std::string const why = std::strerror(errno);
     std::cerr << "tarn: " << Terminal(2, colors).bad("cannot write " + printable(picture)) << ": "
-              << std::strerror(errno) << '\n';
+              << why << '\n';
     return 1;
 }
 

@@ -181,8 +181,6 @@ std::vector<ArgumentType> const& types()
         {"COUNT", "a count or all",
          [](Word const& w) { return isWhole(w, 1, 1000000) || isOneOf(w, {"all"}); }, nullptr},
         {"INDEX", "an index from 1", [](Word const& w) { return isWhole(w, 1, 9999); }, nullptr},
-        {"TURNS", "a number of turns", [](Word const& w) { return isWhole(w, -1000, 1000); },
-         nullptr},
         {"SIDE", "left or top",
          [](Word const& w) {
              return isOneOf(w, {"left", "top"});

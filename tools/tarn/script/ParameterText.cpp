@@ -2,6 +2,7 @@
 
 #include <TarnMediaLib/datatypes/Color.h>
 #include <TarnMediaLib/datatypes/Point.h>
+#include <TarnMediaLib/effects/Effect.h>
 #include <TarnMediaLib/parameters/Interpolater.h>
 #include <TarnMediaLib/parameters/KeyFrame.h>
 #include <TarnMediaLib/parameters/MTVector.h>
@@ -72,9 +73,11 @@ bool isNeutral(ParameterInterface const& any)
 
 void writeParameters(std::ostream& out, Parametric const& owner, std::string const& indent)
 {
+    // What an effect starts with is its own affair.
+    bool const isEffect = dynamic_cast<Effect const*>(&owner) != nullptr;
     auto const parameters = owner.parameterVector();
     for (auto const& parameter : *parameters) {
-        if (!parameter || isNeutral(*parameter))
+        if (!parameter || (!isEffect && isNeutral(*parameter)))
             continue;
         out << indent << parameter->ident();
         if (!(writeIfOf<double>(out, parameter) || writeIfOf<float>(out, parameter) ||
