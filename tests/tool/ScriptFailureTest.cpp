@@ -27,11 +27,12 @@ TEST_F(ScriptFailureTest, AFailedCheckTellsBoth)
 
 TEST_F(ScriptFailureTest, WhatIsRefusedHasChangedNothing)
 {
-    EXPECT_TRUE(succeeds(edit("split V1 at 30 as b\nrefuse move b by -1\n"
-                              "refuse trim-start film by -1\nrefuse trim-end b by 5\n"
-                              "refuse split V1 at 60\nrefuse add-track image\n"
-                              "refuse place film.mov on V2 A1 at 30\n"
-                              "check V2 is \"\"\ncheck V1 is \"film[0,30) b[30,60)\"\ncheck\n")));
+    EXPECT_TRUE(
+        succeeds(edit("refuse trim-end film by 5\nsplit V1 at 30 as b\nrefuse move b by -1\n"
+                      "refuse trim-start film by -1\n"
+                      "refuse split V1 at 60\nrefuse add-track image\n"
+                      "refuse place film.mov on V2 A1 at 30\n"
+                      "check V2 is \"\"\ncheck V1 is \"film[0,30) b[30,60)\"\ncheck\n")));
 }
 
 TEST_F(ScriptFailureTest, ARefusalThatDoesNotComeStopsTheScript)
