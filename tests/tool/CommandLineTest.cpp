@@ -1,5 +1,7 @@
 #include "tool/ToolTest.h"
 
+#include "project/Version.h"
+
 namespace tarn {
 namespace test {
 namespace {
@@ -20,7 +22,11 @@ TEST_F(CommandLineTest, EverySubcommandHasHelp)
 
 TEST_F(CommandLineTest, TheVersionIsTold)
 {
-    EXPECT_TRUE(succeeds(tarnTool("--version"), "tarn 1.0.0, TarnMediaLib 1.0.0\n"));
+    std::string const version = std::to_string(TARN_VERSION_MAJOR) + "." +
+                                std::to_string(TARN_VERSION_MINOR) + "." +
+                                std::to_string(TARN_VERSION_PATCH);
+    EXPECT_TRUE(
+        succeeds(tarnTool("--version"), "tarn " + version + ", TarnMediaLib " + version + "\n"));
 }
 
 TEST_F(CommandLineTest, WrongOptionsAreUsageErrors)
