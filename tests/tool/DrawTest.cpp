@@ -30,7 +30,8 @@ protected:
     }
 
     std::string const k_script = "add-track visual\nadd-track audio\n"
-                                 "place film.mov on V1 A1 at 0\nsplit V1 at 20\n";
+                                 "place film.mov as film on V1 A1 at 0\nsplit V1 at 20\n"
+                                 "marker \"a & b\" at 5\n";
 };
 
 TEST_F(DrawTest, ThePictureShowsTracksMediasAndLinks)
@@ -38,6 +39,8 @@ TEST_F(DrawTest, ThePictureShowsTracksMediasAndLinks)
     EXPECT_TRUE(succeeds(draw(k_script, "a.svg")));
     std::string const svg = MediaFiles::content(MediaFiles::folder() + "/a.svg");
     EXPECT_EQ(svg.find("<svg "), 0u);
+    EXPECT_EQ(count(svg, ">film<"), 2u);
+    EXPECT_EQ(count(svg, ">a &amp; b<"), 1u);
     EXPECT_EQ(count(svg, ">V1<"), 1u);
     EXPECT_EQ(count(svg, ">A1<"), 1u);
     EXPECT_EQ(count(svg, "fill:#3b6ea8"), 2u);

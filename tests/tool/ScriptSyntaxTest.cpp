@@ -118,6 +118,8 @@ TEST_F(ScriptSyntaxTest, ArgumentsAreOfTheirTypes)
     EXPECT_TRUE(fails(edit("stretch film to -1"), "1:17: expected a factor above 0, found '-1'"));
     EXPECT_TRUE(fails(edit("fade-in film for 0"),
                       "1:18: expected a duration above 0 such as 90 or 1.5s, found '0'"));
+    EXPECT_TRUE(fails(edit("move film by 1000000000000001"),
+                      "1:14: expected an offset such as +15, -0.5s, found '1000000000000001'"));
     EXPECT_TRUE(fails(run("undo twice"), "1:6: expected a count or all, found 'twice'"));
     EXPECT_TRUE(fails(run("undo 0"), "1:6: expected a count or all, found '0'"));
     EXPECT_TRUE(

@@ -5,6 +5,8 @@
 #include <TarnMediaLib/edgemods/EdgeModFunc.h>
 #include <TarnMediaLib/edgemods/EdgeModification.h>
 #include <TarnMediaLib/effects/Effect.h>
+#include <TarnMediaLib/parameters/KeyFrame.h>
+#include <TarnMediaLib/parameters/LeftParameter.h>
 #include <TarnMediaLib/parameters/MTVector.h>
 #include <TarnMediaLib/parameters/ParameterInterface.h>
 #include <TarnMediaLib/timeline/AbstractVisualTrack.h>
@@ -13,6 +15,7 @@
 #include <TarnMediaLib/timeline/Media.h>
 #include <TarnMediaLib/timeline/VisualMixer.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <vector>
@@ -49,12 +52,16 @@ std::vector<Row> rowsOf(Timeline const& timeline)
 class Drawing
 {
 public:
-    Drawing(Timeline const& timeline, std::vector<Row> const& rows)
+    Drawing(Timeline const& timeline, std::vector<Row> const& rows, Label const& label)
         : m_rows(rows)
-        , m_scale((k_width - k_left - 30) / std::max<double>(1, double(timeline.endTime())))
+        , m_label(label)
+        , m_start(std::min<long long>(0, timeline.startTime()))
+        , m_scale((k_width - k_left - 30) /
+                  std::max<double>(1, double(timeline.endTime() - m_start)))
         , m_svg(k_width, k_top + k_rowHeight * double(rows.size()) + 30, "#1e2127")
     {
         drawRuler(timeline.endTime());
+        drawMarkers(*timeline.markerParam());
         for (std::size_t i = 0; i < rows.size(); ++i)
             drawRow(rows[i], k_top + k_rowHeight * double(i));
         drawLinks();
@@ -63,7 +70,7 @@ public:
     Svg const& svg() const { return m_svg; }
 
 private:
-    double x(long long time) const { return k_left + double(time) * m_scale; }
+    double x(long long time) const { return k_left + double(time - m_start) * m_scale; }
 
     void drawRuler(long long end)
     {
@@ -73,6 +80,18 @@ private:
                        "stroke:#343943");
             m_svg.text(x(time) + 3, k_top - 12, std::to_string(time),
                        "fill:#8b93a1;font-size:10px");
+        }
+    }
+
+    void drawMarkers(LeftParameter<std::string> const& markers)
+    {
+        auto const times = markers.keyframeTimes();
+        for (long long time : *times) {
+            m_svg.polygon(point(x(time), k_top - 8) + point(x(time) - 5, k_top - 16) +
+                              point(x(time) + 5, k_top - 16),
+                          "fill:#ffd166");
+            m_svg.text(x(time) + 8, k_top - 26, markers.keyframeAtTime(time)->value(),
+                       "fill:#ffd166;font-size:10px");
         }
     }
 
@@ -92,7 +111,7 @@ private:
                    std::string("stroke:#0d0f12;fill:") + (visual ? "#3b6ea8" : "#3f8f5f"), 4);
         drawEdges(media, top);
         drawKeyFrames(media, top);
-        std::string words = media.description();
+        std::string words = m_label(media);
         for (int i = 0; i < media.numEffects(); ++i)
             words += " + " + media.effectAtIndex(i)->name();
         if (width > 40)
@@ -165,6 +184,8 @@ private:
     }
 
     std::vector<Row> m_rows;
+    Label m_label;
+    long long m_start;  ///< what stands at the left: 0, or what lies before it
     double m_scale;
     Svg m_svg;
     std::map<Media const*, std::pair<double, double>> m_places;
@@ -172,14 +193,20 @@ private:
 
 }  // namespace
 
-void drawTimeline(Timeline const& timeline, std::ostream& out)
+void drawTimeline(Timeline const& timeline, Label const& label, std::ostream& out)
 {
-    Drawing(timeline, rowsOf(timeline)).svg().writeTo(out);
+    Drawing(timeline, rowsOf(timeline), label).svg().writeTo(out);
+}
+
+bool drawTimeline(Timeline const& timeline, Label const& label, std::string const& path)
+{
+    return Drawing(timeline, rowsOf(timeline), label).svg().writeTo(path);
 }
 
 bool drawTimeline(Timeline const& timeline, std::string const& path)
 {
-    return Drawing(timeline, rowsOf(timeline)).svg().writeTo(path);
+    return drawTimeline(
+        timeline, [](Media const& media) { return media.description(); }, path);
 }
 
 }  // namespace tarn::drawing

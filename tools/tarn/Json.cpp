@@ -1,5 +1,7 @@
 #include "Json.h"
 
+#include <drawing/Utf8.h>
+
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -8,30 +10,6 @@
 namespace tarn::tool {
 
 namespace {
-
-unsigned char byteAt(std::string const& text, std::size_t index)
-{
-    return index < text.size() ? static_cast<unsigned char>(text[index]) : 0;
-}
-
-/// The length of the UTF-8 character at `index`; 0 when there is none.
-std::size_t characterLength(std::string const& text, std::size_t index)
-{
-    unsigned const first = byteAt(text, index);
-    unsigned const second = byteAt(text, index + 1);
-    if (first < 0x80)
-        return 1;
-    std::size_t const length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-    // Too long a form, half of a pair, or beyond the last character.
-    if (first < 0xC2 || first > 0xF4 || (first == 0xE0 && second < 0xA0) ||
-        (first == 0xED && second > 0x9F) || (first == 0xF0 && second < 0x90) ||
-        (first == 0xF4 && second > 0x8F))
-        return 0;
-    for (std::size_t i = 1; i < length; ++i)
-        if ((byteAt(text, index + i) & 0xC0u) != 0x80u)
-            return 0;
-    return length;
-}
 
 std::string escaped(char letter)
 {
@@ -59,9 +37,9 @@ Json& Json::text(std::string const& value)
     separate();
     m_out << '"';
     for (std::size_t i = 0; i < value.size();) {
-        std::size_t const length = characterLength(value, i);
+        std::size_t const length = drawing::characterLength(value, i);
         if (length == 0)
-            m_out << "\xEF\xBF\xBD";
+            m_out << drawing::k_replacement;
         else if (length == 1)
             m_out << escaped(value[i]);
         else

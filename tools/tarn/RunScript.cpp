@@ -5,6 +5,7 @@
 #include "script/Runner.h"
 #include "script/Verb.h"
 
+#include <TarnMediaLib/timeline/Media.h>
 #include <drawing/TimelinePicture.h>
 
 #include <cerrno>
@@ -101,15 +102,21 @@ int cannotWrite(std::string const& picture, Colors colors)
     return 1;
 }
 
+/// Without the medias' names a picture would only tell their kinds.
+drawing::Label labels(Stage const& stage)
+{
+    return [&stage](Media const& media) { return stage.label(media.shared_from_this()); };
+}
+
 int draw(Stage const& stage, std::string const& picture, Colors colors)
 {
     if (picture == "-") {
-        drawing::drawTimeline(*stage.timeline(), std::cout);
+        drawing::drawTimeline(*stage.timeline(), labels(stage), std::cout);
         return 0;
     }
     std::string const unfinished = picture + ".part";
     errno = 0;
-    if (!drawing::drawTimeline(*stage.timeline(), unfinished) ||
+    if (!drawing::drawTimeline(*stage.timeline(), labels(stage), unfinished) ||
         std::rename(unfinished.c_str(), picture.c_str()) != 0) {
         int const status = cannotWrite(picture, colors);
         std::remove(unfinished.c_str());

@@ -1,5 +1,7 @@
 #include "script/Model.h"
 
+#include "Terminal.h"
+
 #include <TarnMediaLib/parameters/LeftParameter.h>
 #include <TarnMediaLib/timeline/AMFile.h>
 #include <TarnMediaLib/timeline/AbstractIMFile.h>
@@ -19,11 +21,6 @@ void addTracks(boost::shared_ptr<Mixer const> const& mixer, char kind,
         return;
     for (unsigned i = 0; i < mixer->numTracks(); ++i)
         tracks.push_back({kind + std::to_string(i + 1), mixer->trackAtIndex(i)});
-}
-
-std::string leafOf(std::string const& path)
-{
-    return path.substr(path.rfind('/') + 1);
 }
 
 }  // namespace
@@ -62,16 +59,21 @@ std::string trackName(Timeline const& timeline, Media const& media)
     return "";
 }
 
+std::string fileLeaf(std::string const& path)
+{
+    return printable(path.substr(path.rfind('/') + 1));
+}
+
 std::string materialOf(Media const& media)
 {
     if (auto const* video = dynamic_cast<VMFile const*>(&media))
-        return leafOf(video->fileName());
+        return fileLeaf(video->fileName());
     if (auto const* sound = dynamic_cast<AMFile const*>(&media))
-        return leafOf(sound->fileName());
+        return fileLeaf(sound->fileName());
     if (auto const* still = dynamic_cast<AbstractIMFile const*>(&media))
-        return leafOf(still->fileName());
+        return fileLeaf(still->fileName());
     if (auto const* text = dynamic_cast<TextBox const*>(&media))
-        return '"' + text->text()->valueAtTime(0) + '"';
+        return '"' + printable(text->text()->valueAtTime(0)) + '"';
     return media.description();
 }
 

@@ -29,6 +29,8 @@ std::vector<boost::shared_ptr<Media const>> mediasOf(Track const& track);
 std::vector<boost::shared_ptr<Media const>> linksOf(Media const& media);
 /// "V1"; empty for a media on no track of the timeline.
 std::string trackName(Timeline const& timeline, Media const& media);
+/// The last part of a path, fit to be printed.
+std::string fileLeaf(std::string const& path);
 /// What a media shows: the name of its file, its text in quotation marks, or its kind.
 std::string materialOf(Media const& media);
 

@@ -26,11 +26,6 @@ std::string spanText(Range<long long> const& range)
     return "[" + std::to_string(range.start) + "," + std::to_string(range.end()) + ")";
 }
 
-std::string leafOf(std::string const& path)
-{
-    return path.substr(path.rfind('/') + 1);
-}
-
 void writeHead(std::ostream& out, Stage const& stage)
 {
     auto const rate = stage.project().editRate();
@@ -43,7 +38,7 @@ void writeHead(std::ostream& out, Stage const& stage)
     out << '\n';
     boost::shared_ptr<SourceBin const> const bin = stage.project().sourceBin();
     for (auto source = bin->begin(); source != bin->end(); ++source)
-        out << "file " << leafOf((*source)->mediaFileStats()->filename()) << " for "
+        out << "file " << fileLeaf((*source)->mediaFileStats()->filename()) << " for "
             << (*source)->timeRange().duration << '\n';
 }
 

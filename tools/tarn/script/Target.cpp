@@ -9,6 +9,7 @@
 #include <TarnMediaLib/timeline/Media.h>
 #include <TarnMediaLib/timeline/Mixer.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarn::tool {
@@ -89,7 +90,8 @@ OwnedParameter parameterOf(Target const& target, Word const& word)
 long long OwnedParameter::keyTime(long long time) const
 {
     double const local = static_cast<double>(owner->fromGlobalToParametricTime(time));
-    return std::llround(owner->toParameterTime(local));
+    double const k_most = 9e18;
+    return std::llround(std::clamp(owner->toParameterTime(local), -k_most, k_most));
 }
 
 }  // namespace tarn::tool

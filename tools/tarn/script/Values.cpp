@@ -30,7 +30,7 @@ bool endsWith(std::string const& text, std::string const& ending)
 
 std::optional<WrittenTime> readSeconds(std::string const& text, std::size_t unit, double scale)
 {
-    double const k_most = 1e9;  // thirty years: what is more is a slip of the pen
+    double const k_most = 1e9;
     std::optional<double> const number = readNumber(text.substr(0, text.size() - unit));
     if (!number || std::fabs(*number) > k_most)
         return std::nullopt;
@@ -61,9 +61,12 @@ std::optional<WrittenTime> readTime(std::string const& text)
         return readSeconds(text, 2, 0.001);
     if (endsWith(text, "s"))
         return readSeconds(text, 1, 1);
-    if (std::optional<long long> const units = readInteger(text))
-        return WrittenTime{false, *units, 0};
-    return std::nullopt;
+    // Thirty years of anything are a slip of the pen, and sums of less stay within 64 bits.
+    long long const k_most = 1000000000000000;
+    std::optional<long long> const units = readInteger(text);
+    if (!units || *units > k_most || *units < -k_most)
+        return std::nullopt;
+    return WrittenTime{false, *units, 0};
 }
 
 std::optional<std::pair<int, int>> readSize(std::string const& text)
