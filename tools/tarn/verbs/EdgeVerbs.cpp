@@ -20,6 +20,8 @@
 #include <TarnMediaLib/timeline/AudioMedia.h>
 #include <TarnMediaLib/timeline/VisualMedia.h>
 
+#include <list>
+
 namespace tarn::tool::verbs {
 
 namespace {
@@ -105,10 +107,12 @@ Edit clearEdge(Stage& stage, Statement const& statement)
 {
     boost::shared_ptr<Media const> const media = stage.media(statement.word("of"));
     bool const isStart = statement.word("EDGE").text == "start";
-    auto const modifications =
+    std::list<EdgeModification> modifications =
         isStart ? media->leftEdgeModifications() : media->rightEdgeModifications();
     if (modifications.empty())
         throw ScriptError(statement.word("EDGE").place, "nothing is on that edge");
+    // The undo of a removal appends, and the last removal is undone first.
+    modifications.reverse();
     return {
         Steps::create(
             "ClearEdge",
