@@ -35,27 +35,46 @@ boost::shared_ptr<Parameter<double> const> fadedParameter(
 }
 
 /// A modification on one edge and the edge's length, as one step.
+template <class Add, class Move>
+Edit edge(boost::shared_ptr<Media const> const& media, EdgeModification const& modification,
+          long long delta)
+{
+    return {Steps::create("Edge",
+                          [media, modification, delta](Steps& steps) {
+                              steps.run(Add::create(media, modification));
+                              steps.run(Move::create(media, delta));
+                          }),
+            {}};
+}
+
 Edit leftEdge(Stage& stage, Statement const& statement, boost::shared_ptr<Media const> const& media,
               EdgeModification const& modification)
 {
-    long long const delta = stage.time(statement.word("for")) - media->leftEdgeModificationLength();
-    return {Steps::create("LeftEdge",
-                          [media, modification, delta](Steps& steps) {
-                              steps.run(AddLeftEdgeModCmd::create(media, modification));
-                              steps.run(MoveLeftEdgeModCmd::create(media, delta));
-                          }),
-            {}};
+    long long const wanted = stage.time(statement.word("for"));
+    return edge<AddLeftEdgeModCmd, MoveLeftEdgeModCmd>(
+        media, modification, wanted - media->leftEdgeModificationLength());
 }
 
 Edit rightEdge(Stage& stage, Statement const& statement,
                boost::shared_ptr<Media const> const& media, EdgeModification const& modification)
 {
-    long long const delta =
-        stage.time(statement.word("for")) - media->rightEdgeModificationLength();
-    return {Steps::create("RightEdge",
-                          [media, modification, delta](Steps& steps) {
-                              steps.run(AddRightEdgeModCmd::create(media, modification));
-                              steps.run(MoveRightEdgeModCmd::create(media, delta));
+    long long const wanted = stage.time(statement.word("for"));
+    return edge<AddRightEdgeModCmd, MoveRightEdgeModCmd>(
+        media, modification, wanted - media->rightEdgeModificationLength());
+}
+
+/// Takes everything off one edge, the last first: the undo of a removal appends, and the last
+/// removal is undone first.
+template <class Remove, class Move>
+Edit clearedEdge(boost::shared_ptr<Media const> const& media,
+                 std::list<EdgeModification> modifications, long long length)
+{
+    modifications.reverse();
+    return {Steps::create("ClearEdge",
+                          [media, modifications, length](Steps& steps) {
+                              for (EdgeModification const& modification : modifications)
+                                  steps.run(Remove::create(media, modification.parameter()));
+                              steps.run(Move::create(media, -length));
                           }),
             {}};
 }
@@ -106,30 +125,17 @@ Edit slideOut(Stage& stage, Statement const& statement)
 Edit clearEdge(Stage& stage, Statement const& statement)
 {
     boost::shared_ptr<Media const> const media = stage.media(statement.word("of"));
-    bool const isStart = statement.word("EDGE").text == "start";
-    std::list<EdgeModification> modifications =
+    Word const& which = statement.word("EDGE");
+    bool const isStart = which.text == "start";
+    auto const modifications =
         isStart ? media->leftEdgeModifications() : media->rightEdgeModifications();
     if (modifications.empty())
-        throw ScriptError(statement.word("EDGE").place, "nothing is on that edge");
-    // The undo of a removal appends, and the last removal is undone first.
-    modifications.reverse();
-    return {
-        Steps::create(
-            "ClearEdge",
-            [media, isStart, modifications](Steps& steps) {
-                for (EdgeModification const& modification : modifications)
-                    if (isStart)
-                        steps.run(RemoveLeftEdgeModCmd::create(media, modification.parameter()));
-                    else
-                        steps.run(RemoveRightEdgeModCmd::create(media, modification.parameter()));
-                if (isStart)
-                    steps.run(
-                        MoveLeftEdgeModCmd::create(media, -media->leftEdgeModificationLength()));
-                else
-                    steps.run(
-                        MoveRightEdgeModCmd::create(media, -media->rightEdgeModificationLength()));
-            }),
-        {}};
+        throw ScriptError(which.place, "nothing is on that edge");
+    if (isStart)
+        return clearedEdge<RemoveLeftEdgeModCmd, MoveLeftEdgeModCmd>(
+            media, modifications, media->leftEdgeModificationLength());
+    return clearedEdge<RemoveRightEdgeModCmd, MoveRightEdgeModCmd>(
+        media, modifications, media->rightEdgeModificationLength());
 }
 
 }  // namespace tarn::tool::verbs
