@@ -16,6 +16,12 @@ TEST_F(ScriptSyntaxTest, BlankLinesAndCommentsAreNothing)
                          "one\n#two\n"));
 }
 
+TEST_F(ScriptSyntaxTest, AMarkOfTheEncodingIsNothing)
+{
+    EXPECT_TRUE(
+        fails(run("\xEF\xBB\xBFprint a b"), "1:9: nothing more is expected here, found 'b'"));
+}
+
 TEST_F(ScriptSyntaxTest, QuotationMarksKeepBlanksAndEscapes)
 {
     EXPECT_TRUE(succeeds(run("print \"a \\\"b\\\" \\\\ c\\nd\""), "a \"b\" \\ c\nd\n"));

@@ -21,11 +21,18 @@ public:
     {
         std::string line;
         for (int number = 1; std::getline(text, line); ++number)
-            parseLine(line, number);
+            parseLine(number == 1 ? withoutMark(line) : line, number);
         return std::move(m_script);
     }
 
 private:
+    /// Some editors begin a file with a mark of its encoding.
+    static std::string withoutMark(std::string const& line)
+    {
+        std::string const k_mark = "\xEF\xBB\xBF";
+        return line.compare(0, k_mark.size(), k_mark) == 0 ? line.substr(k_mark.size()) : line;
+    }
+
     void parseLine(std::string const& text, int number)
     {
         Line line;

@@ -44,7 +44,11 @@ boost::shared_ptr<Source const> sourceFor(Stage& stage, Word const& word, Steps&
 
 bool isStill(Source const& source)
 {
-    return source.mediaFileStats()->trackType(0) == MediaFileStats::Image;
+    MediaFileStats const& stats = *source.mediaFileStats();
+    for (unsigned i = 0; i < stats.numTracks(); ++i)
+        if (stats.trackType(i) != MediaFileStats::Image)
+            return false;
+    return true;
 }
 
 boost::shared_ptr<Media const> placeStill(Stage& stage, Statement const& statement,
