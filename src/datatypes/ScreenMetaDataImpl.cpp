@@ -2,6 +2,7 @@
 
 #include "clipbin/PathUtil.h"
 #include "datatypes/FileRepresentation.h"
+#include "datatypes/MadeOnFirstUse.h"
 #include "datatypes/ScreenMetaDataLoader.h"
 #include "datatypes/XmlRepresentation.h"
 #include "exceptions/TarnMediaLibException.h"
@@ -141,9 +142,18 @@ boost::shared_ptr<ParameterInterface> ScreenMetaDataImpl::load(
 {
     // Kept so: a host without a loader hears of it each time, whether or not it would be needed.
     assertLazyLoader(lazyLoader());
+    {
+        std::lock_guard<std::mutex> const guard(firstUseMutex());
+        if (parameter) {
+            return parameter;
+        }
+    }
+    // Threads that ask at the same time all load; what the first one has loaded stays.
+    boost::shared_ptr<ParameterInterface> const loaded = lazyLoader()->loadParameter(
+        convertToAbsolute(m_parent, fileName), paramName, m_lockOwner, m_editRate);
+    std::lock_guard<std::mutex> const guard(firstUseMutex());
     if (!parameter) {
-        parameter = lazyLoader()->loadParameter(convertToAbsolute(m_parent, fileName), paramName,
-                                                m_lockOwner, m_editRate);
+        parameter = loaded;
     }
     return parameter;
 }
