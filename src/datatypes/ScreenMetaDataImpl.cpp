@@ -148,14 +148,13 @@ boost::shared_ptr<ParameterInterface> ScreenMetaDataImpl::load(
             return parameter;
         }
     }
-    // Threads that ask at the same time all load; what the first one has loaded stays.
     boost::shared_ptr<ParameterInterface> const loaded = lazyLoader()->loadParameter(
         convertToAbsolute(m_parent, fileName), paramName, m_lockOwner, m_editRate);
+    // Another thread may have loaded meanwhile; what it stored ends after the mutex is free.
+    boost::shared_ptr<ParameterInterface> stored = loaded;
     std::lock_guard<std::mutex> const guard(firstUseMutex());
-    if (!parameter) {
-        parameter = loaded;
-    }
-    return parameter;
+    parameter.swap(stored);
+    return loaded;
 }
 
 bool ScreenMetaDataImpl::isValid() const
