@@ -65,7 +65,8 @@ public:
 
     /// How many commands can be undone at most; negative, as at first, for no limit.
     int undoLimit() const { return m_undoLimit; }
-    /// Drops the oldest at once that are too many, without undoing them.
+    /// Drops the oldest at once that are too many, without undoing them. A host with other threads
+    /// holds the project's write lock meanwhile: what is dropped may be the last owner of objects.
     void setUndoLimit(int limit);
 
     std::size_t numUndoCommands() const { return m_undoCommands.size(); }
