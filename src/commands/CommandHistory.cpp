@@ -163,6 +163,8 @@ boost::shared_ptr<Command const> CommandHistory::getCurrentUndoStackTop() const
 
 void CommandHistory::restoreState(CommandHistoryState const& state)
 {
+    // Made before anything is undone, so that nothing can fail behind that.
+    CommandList redoCommands = state.redoCommands();
     // Kept so: entries of the redo list are unexecuted too, not run again, when the top is there.
     if (!unrollStack(m_undoCommands, state.undoTop(), m_handler) &&
         !unrollStack(m_redoCommands, state.undoTop(), m_handler)) {
@@ -170,7 +172,7 @@ void CommandHistory::restoreState(CommandHistoryState const& state)
         throw ValueException<CommandHistoryState>("State cannot be restored, cannot find undo top",
                                                   state);
     }
-    m_redoCommands = state.redoCommands();
+    m_redoCommands.swap(redoCommands);
     notify();
 }
 

@@ -38,6 +38,7 @@ public:
     /// @throws the first exception of an observer, once all have notified
     void stopCollecting();
     bool isCollecting() const;
+    /// When there is no memory to collect it, it notifies at once.
     void addObservable(boost::shared_ptr<Observable const> const& observable);
 
     std::string description() const override;
@@ -47,6 +48,8 @@ private:
 
     UpdateCollector();
     ~UpdateCollector();
+
+    void tellAtOnce(Observable const& observable);
 
     std::unique_ptr<State> m_state;
 };
