@@ -204,9 +204,17 @@ std::vector<Operation> placement()
             [](FaultStage& s) { return TrimStartCmd::create(s.track("V1"), s.media("V1.a"), 10); }),
         row("TrimEndCmd", k_strip, k_atomic,
             [](FaultStage& s) { return TrimEndCmd::create(s.track("V1"), s.media("V1.a"), -10); }),
+        // The sound's file ends where the picture's goes on: it stays as it is, and that is no failure.
+        row("TrimEndCmd past a linked media's end", "A1: aa / V1: aa", k_atomic,
+            [](FaultStage& s) { return TrimEndCmd::create(s.track("V1"), s.pool(0), 10); },
+            [](FaultStage& s) {
+                s.project->execute(AddMediaCmd::create(s.track("V1"), s.pool(0), 200));
+                s.project->execute(AddMediaCmd::create(s.track("A1"), s.pool(10), 200));
+                s.project->execute(LinkCmd::create(s.pool(0), s.pool(10)));
+            }),
         row("StretchCmd", k_strip, k_atomic,
             [](FaultStage& s) { return StretchCmd::create(s.track("V1"), s.media("V1.a"), 0.5); }),
-        row("CommandPair", k_strip, k_composite,
+        row("CommandPair", k_strip, Operation::Pair,
             [](FaultStage& s) {
                 return CommandPair::create(MoveCmd::create(s.track("V1"), s.media("V1.a"), 200),
                                            MoveCmd::create(s.track("V1"), s.media("V1.b"), -30));

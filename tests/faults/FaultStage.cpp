@@ -119,7 +119,7 @@ FaultStage::Outcome FaultStage::actWithFault(int k, AllocationFault::Lasting las
         m_callsBefore.push_back(observer.calls());
     m_hasPrimitive = false;
     std::unique_ptr<WatchingHandler> watch;
-    if (m_operation.kind == Operation::Composite) {
+    if (m_operation.kind != Operation::Atomic) {
         watch.reset(new WatchingHandler(*project, [this](auto const&, auto const&) {
             AllocationFault::Pause const pause;
             m_atLastPrimitive = Fingerprint(*this);
@@ -144,9 +144,16 @@ FaultStage::Snapshot FaultStage::snapshot() const
 {
     Snapshot result;
     result.model = Fingerprint(*this);
-    result.text = exactModelText(*project);
+    result.text = wholeText();
     renewHistory(result);
     return result;
+}
+
+std::string FaultStage::wholeText() const
+{
+    // A reader, though what it reads may be handed out for changes.
+    FaultStage& self = const_cast<FaultStage&>(*this);
+    return exactModelText(*project) + (m_operation.tell ? m_operation.tell(self) : "");
 }
 
 void FaultStage::renewHistory(Snapshot& snapshot) const
@@ -162,7 +169,7 @@ std::string FaultStage::difference(Snapshot const& before) const
     std::string text;
     for (Fingerprint::Difference const& found : before.model.differences(Fingerprint(*this)))
         text += found.text() + "\n";
-    std::string const now = exactModelText(*project);
+    std::string const now = wholeText();
     if (text.empty() && now != before.text)
         text = "the model is\n" + now + "\nand not\n" + before.text;
     return text;
@@ -240,7 +247,8 @@ std::string FaultStage::look() const
     return strip() + "\n" + std::to_string(project->clipBoard()->size()) + " clippings, " +
            std::to_string(project->commandHistory()->numUndoCommands()) + " to undo, " +
            std::to_string(project->commandHistory()->numRedoCommands()) + " to redo\n" +
-           xmlWithoutIdents(*project);
+           xmlWithoutIdents(*project) +
+           (m_operation.tell ? m_operation.tell(const_cast<FaultStage&>(*this)) : "");
 }
 
 std::set<std::size_t> FaultStage::notified() const

@@ -81,6 +81,7 @@ public:
 
 private:
     void TestBody() override {}
+    std::string wholeText() const;
     void observeAll();
     void observe(Subject const& subject);
     int callsOfObservers() const;

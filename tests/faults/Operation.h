@@ -22,7 +22,8 @@ struct Operation
     enum Kind
     {
         Atomic,    ///< one primitive; fails as a whole
-        Composite  ///< several, so that an undo may stop between two of them
+        Composite,  ///< several, so that an undo may stop between two of them
+        Pair  ///< as a composite; and what was done first stays when the second has no memory
     };
 
     std::string name;   ///< of a command, its class
@@ -31,6 +32,7 @@ struct Operation
     std::function<void(FaultStage&)> prepare;  ///< what else it begins with; may be empty
     std::function<boost::shared_ptr<Command>(FaultStage&)> command;
     std::function<void(FaultStage&)> run;
+    std::function<std::string(FaultStage&)> tell;  ///< what no text of the model shows; may be empty
 };
 
 std::ostream& operator<<(std::ostream& out, Operation const& operation);
