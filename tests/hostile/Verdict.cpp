@@ -69,7 +69,8 @@ std::string failureOf(std::string const& text, std::string const& path)
 {
     auto const* const found =
         std::find_if(std::begin(k_failures), std::end(k_failures), [&](std::string const& failure) {
-            return text == "IOException: " + failure + path;
+            // As a C string, which is what an exception tells: a name may hold a zero byte.
+            return text == ("IOException: " + failure + path).c_str();
         });
     return found == std::end(k_failures) ? std::string() : *found;
 }
