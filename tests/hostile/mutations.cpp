@@ -1,11 +1,12 @@
 // Reads mutated media files one after another and counts what becomes of them:
 //     hostile_mutations SEEDS [--seed N] [--files M]
-// A fault ends the run, and leaves its file behind.
+// A fault ends the run, and leaves its file behind. A signal to end lets it tell how far it came.
 
 #include "hostile/Mutator.h"
 #include "hostile/Scratch.h"
 #include "hostile/Tally.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
@@ -47,13 +48,15 @@ void keep(FileImage const& file)
     std::cout << "kept as " << path << '\n';
 }
 
+volatile std::sig_atomic_t s_isToEnd = 0;
+
 /// @return whether there was no fault
 bool run(Options const& options)
 {
     Mutator mutator(filesOf(options.seeds), options.seed);
     Scratch const scratch;
     Tally tally;
-    while (tally.files() < options.files) {
+    while (tally.files() < options.files && !s_isToEnd) {
         FileImage const file = mutator.next();
         std::string const path = scratch.write(file);
         auto const begin = std::chrono::steady_clock::now();
@@ -74,6 +77,7 @@ bool run(Options const& options)
 
 int main(int argc, char** argv)
 {
+    std::signal(SIGTERM, [](int) { s_isToEnd = 1; });
     try {
         return run(parse(argc, argv)) ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (std::exception const& error) {
