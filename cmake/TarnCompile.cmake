@@ -14,12 +14,6 @@ if(TARN_SANITIZE)
         target_compile_options(tarn_compile INTERFACE -fno-sanitize-recover=all)
     endif()
 endif()
-if(TARN_LIBFUZZER)
-    # What is compiled tells libFuzzer where it has been; the targets alone bring its main().
-    target_compile_options(tarn_compile INTERFACE -fsanitize=fuzzer-no-link)
-    # The library reaches the sanitizers' run-time of the program that loads it.
-    target_link_options(tarn_compile INTERFACE -fsanitize=fuzzer-no-link)
-endif()
 if(TARN_COVERAGE)
     target_compile_options(tarn_compile INTERFACE --coverage -fprofile-update=atomic)
     target_link_options(tarn_compile INTERFACE --coverage)

@@ -62,7 +62,7 @@ private:
     static constexpr std::size_t k_head = 64;
 };
 
-TEST_F(BrokenMediaTest, TheSoundFilesAreLoaded)
+TEST_F(BrokenMediaTest, UnbrokenFilesAreLoaded)
 {
     EXPECT_TRUE(isLoaded(movie()));
     EXPECT_TRUE(isLoaded(matroska()));

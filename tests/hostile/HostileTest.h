@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hostile/SourceMaker.h"
 #include "hostile/Verdict.h"
 #include "support/MediaFiles.h"
 
@@ -34,7 +35,7 @@ protected:
     /// Whether the file gives that failure; with an empty text, whether it is loaded.
     static ::testing::AssertionResult isRefused(std::string const& path, std::string const& failure)
     {
-        Verdict const verdict = judge(path);
+        Verdict const verdict = judge(path, &makeSource);
         if (verdict.fault.empty() && verdict.failure == failure) {
             return ::testing::AssertionSuccess();
         }
@@ -45,12 +46,12 @@ protected:
     /// happened.
     static ::testing::AssertionResult isHarmless(std::string const& path)
     {
-        std::string const fault = judge(path).fault;
+        std::string const fault = judge(path, &makeSource).fault;
         return fault.empty() ? ::testing::AssertionSuccess()
                              : ::testing::AssertionFailure() << path << ": " << fault;
     }
 
-    /// A small sound picture, as an example of a file that can be read.
+    /// Small files that can be read.
     static std::string picture()
     {
         return MediaFiles::made("one.png", MediaFiles::picture(1, "25") + " -pix_fmt rgb24");

@@ -18,7 +18,7 @@ struct FileImage
 /// Every file of the folder, in the order of names.
 std::vector<FileImage> filesOf(std::string const& folder);
 
-/// Makes broken files out of sound ones: bits turned, numbers replaced by dangerous ones, pieces
+/// Makes broken files out of whole ones: bits turned, numbers replaced by dangerous ones, pieces
 /// cut, doubled, moved or taken from another file. The same number gives the same files.
 class Mutator
 {

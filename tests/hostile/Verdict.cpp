@@ -3,15 +3,10 @@
 #include "hostile/Watch.h"
 
 #include "clipbin/MediaFileStats.h"
-#include "clipbin/Source.h"
 #include "exceptions/IOException.h"
-#include "exceptions/TarnMediaLibException.h"
-#include "project/Project.h"
-#include "timeline/Timeline.h"
 
 #include <algorithm>
 #include <memory>
-#include <sstream>
 
 namespace tarn {
 namespace test {
@@ -52,18 +47,6 @@ std::string faultOf(MediaFileStats const& stats)
     return std::string();
 }
 
-/// What a project does with statistics; that they have no length in common is a failure it knows.
-void makeSource(boost::shared_ptr<MediaFileStats> const& stats)
-{
-    static boost::shared_ptr<Project> const& s_project =
-        *new boost::shared_ptr<Project>(Project::create(boost::rational<unsigned long>(30, 1)));
-    try {
-        std::ostringstream xml;
-        Source::create(s_project, s_project, stats)->toXML(xml);
-    } catch (TarnMediaLibException const&) {
-    }
-}
-
 /// The text without the file's name; empty if it is none of the reader's.
 std::string failureOf(std::string const& text, std::string const& path)
 {
@@ -75,14 +58,16 @@ std::string failureOf(std::string const& text, std::string const& path)
     return found == std::end(k_failures) ? std::string() : *found;
 }
 
-void read(std::string const& path, Verdict& verdict)
+void read(std::string const& path, StatsUse const& use, Verdict& verdict)
 {
     bool const isClaimed = MediaFileStats::isFileOpenable(path);
     try {
         boost::shared_ptr<MediaFileStats> const stats(MediaFileStats::create(path));
         verdict.isLoaded = true;
         verdict.fault = faultOf(*stats);
-        makeSource(stats);
+        if (use) {
+            use(stats);
+        }
     } catch (IOException const& thrown) {
         verdict.failure = failureOf(thrown.what(), path);
         if (verdict.failure.empty()) {
@@ -110,11 +95,11 @@ std::string faultOf(Watch const& watch, std::string const& path)
 
 }  // namespace
 
-Verdict judge(std::string const& path)
+Verdict judge(std::string const& path, StatsUse const& use)
 {
     Verdict verdict;
     Watch watch;
-    read(path, verdict);
+    read(path, use, verdict);
     watch.end();
     verdict.fault += faultOf(watch, path);
     return verdict;

@@ -1,5 +1,10 @@
 #pragma once
 
+#include "clipbin/ClipBinFwd.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <functional>
 #include <string>
 
 namespace tarn {
@@ -16,9 +21,11 @@ struct Verdict
     std::string fault;
 };
 
-/// Reads the file's statistics under a Watch, and where they can be read makes a source of them and
-/// prints its XML.
-Verdict judge(std::string const& path);
+/// What is done with statistics that could be read, as a part of the judgement.
+using StatsUse = std::function<void(boost::shared_ptr<MediaFileStats> const&)>;
+
+/// Reads the file's statistics under a Watch, and uses them.
+Verdict judge(std::string const& path, StatsUse const& use = StatsUse());
 
 }  // namespace test
 }  // namespace tarn

@@ -1,3 +1,6 @@
+// With it open() would be an inline function of the header, which cannot be defined again.
+#undef _FORTIFY_SOURCE
+
 #include "hostile/Watch.h"
 
 #include <cstdarg>

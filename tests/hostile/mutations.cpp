@@ -4,6 +4,7 @@
 
 #include "hostile/Mutator.h"
 #include "hostile/Scratch.h"
+#include "hostile/SourceMaker.h"
 #include "hostile/Tally.h"
 
 #include <csignal>
@@ -60,7 +61,7 @@ bool run(Options const& options)
         FileImage const file = mutator.next();
         std::string const path = scratch.write(file);
         auto const begin = std::chrono::steady_clock::now();
-        Verdict const verdict = judge(path);
+        Verdict const verdict = judge(path, &makeSource);
         tally.add(verdict, std::chrono::steady_clock::now() - begin);
         if (!verdict.fault.empty()) {
             std::cout << "FAULT at file " << tally.files() << " of seed " << options.seed << ": "

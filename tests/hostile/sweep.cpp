@@ -2,6 +2,7 @@
 //     hostile_sweep FOLDER...
 // Prints the path of each file that loads, and on the standard error what became of all of them.
 
+#include "hostile/SourceMaker.h"
 #include "hostile/Tally.h"
 
 #include <boost/filesystem.hpp>
@@ -27,7 +28,7 @@ bool sweep(fs::path const& folder, Tally& tally)
         }
         std::string const path = entry->path().string();
         auto const begin = std::chrono::steady_clock::now();
-        Verdict const verdict = judge(path);
+        Verdict const verdict = judge(path, &makeSource);
         tally.add(verdict, std::chrono::steady_clock::now() - begin);
         if (!verdict.fault.empty()) {
             std::cerr << "FAULT: " << path << ": " << verdict.fault << '\n';
