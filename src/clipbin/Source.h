@@ -63,6 +63,7 @@ public:
     Range<long long> timeRange() const;
     /// Owned by the source.
     MediaFileStats const* mediaFileStats() const;
+    /// With the prototype medias, one a track; owned by the source.
     boost::shared_ptr<Timeline> timeline();
     boost::shared_ptr<Timeline const> timeline() const;
     /// @throws IndexException

@@ -32,6 +32,7 @@ public:
     /// With a copy of every command, and without a handler.
     CommandHistory* clone() const override;
 
+    /// What commands are given from now on; not owned.
     void setCommandHandler(CommandHandler* handler) { m_handler = handler; }
 
     /// Runs a command and records it, which drops what could be redone.
@@ -44,7 +45,9 @@ public:
     /// Does not apply the undo limit.
     /// @throws TarnMediaLibException "no commands to redo", and what the command throws
     void redo();
+    /// Undoes until nothing is left. @throws what undo() throws
     void undoAll();
+    /// Redoes until nothing is left. @throws what redo() throws
     void redoAll();
     /// Drops what could be redone; does not notify.
     void dropRedoCommands();
@@ -62,7 +65,8 @@ public:
 
     /// How many commands can be undone at most; negative, as at first, for no limit.
     int undoLimit() const { return m_undoLimit; }
-    /// Drops the oldest at once that are too many, without undoing them.
+    /// Drops the oldest at once that are too many, without undoing them. A host with other threads
+    /// holds the project's write lock meanwhile: what is dropped may be the last owner of objects.
     void setUndoLimit(int limit);
 
     std::size_t numUndoCommands() const { return m_undoCommands.size(); }

@@ -24,7 +24,9 @@ public:
 
     std::string description() const override;
 
+    /// Whether one is open anywhere in the process.
     static bool isActive();
+    /// Queues a notification.
     static void addObservable(Observable const* observable);
     static void addObservable(Subject const* subject);
     /// Drops every entry of what dies, the one being told included.

@@ -45,6 +45,7 @@ public:
 
     /// Whether no NotifyDisabler is alive.
     bool isNotifying() const { return m_disableCount == 0; }
+    /// Silent for as long as the result lives.
     NotifyDisabler disableNotifies() { return NotifyDisabler(this); }
 
 private:

@@ -33,11 +33,13 @@ public:
     UpdateCollector(UpdateCollector const&) = delete;
     UpdateCollector& operator=(UpdateCollector const&) = delete;
 
+    /// Collects from now on. Does not nest.
     void startCollecting();
     /// Lets each object that was collected notify, in no told order.
     /// @throws the first exception of an observer, once all have notified
     void stopCollecting();
     bool isCollecting() const;
+    /// Notes the object, once; it is kept alive until it has notified.
     void addObservable(boost::shared_ptr<Observable const> const& observable);
 
     std::string description() const override;

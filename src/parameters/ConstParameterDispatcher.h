@@ -5,7 +5,7 @@
 namespace tarn {
 
 /// Learns the type of a parameter that it may only read. The host implements it; the library only
-/// calls it.
+/// calls it. Takes no lock; the caller of receiveDispatcher() holds what its work needs.
 class TARN_API ConstParameterDispatcher
 {
 public:

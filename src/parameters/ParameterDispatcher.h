@@ -4,7 +4,8 @@
 
 namespace tarn {
 
-/// Learns the type of a parameter. The host implements it; the library only calls it.
+/// Learns the type of a parameter. The host implements it; the library only calls it. Takes no
+/// lock; the caller of receiveDispatcher() holds what its work needs.
 class TARN_API ParameterDispatcher
 {
 public:

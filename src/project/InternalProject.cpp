@@ -21,19 +21,19 @@ char const k_version[] = "1.0";
 }  // namespace
 
 boost::shared_ptr<InternalProject> InternalProject::create(
-    boost::rational<unsigned long> const& rate)
+    boost::rational<unsigned long> const& rate, LockPolicy policy)
 {
     // Two stages, since what a project owns needs a weak pointer to it.
-    boost::shared_ptr<InternalProject> const project(new InternalProject(rate));
+    boost::shared_ptr<InternalProject> const project(new InternalProject(rate, policy));
     project->init();
     return project;
 }
 
-InternalProject::InternalProject(boost::rational<unsigned long> const& rate)
+InternalProject::InternalProject(boost::rational<unsigned long> const& rate, LockPolicy policy)
     : m_commandHistory(new CommandHistory(this))
     , m_editRate(rate)
     , m_version(k_version)
-    , m_mutex(new ReadWriteMutex)
+    , m_mutex(new ReadWriteMutex(policy))
     , m_commandObserver(nullptr)
     , m_edgeModCommandHandler(new DefaultEdgeModCommandHandler)
     , m_combineNextCommand(false)

@@ -7,7 +7,8 @@
 
 namespace tarn {
 
-/// Receives a track as what it is, without the right to change it.
+/// Receives a track as what it is, without the right to change it. Takes no lock; the caller of
+/// receiveDispatcher() holds what its work needs.
 class TARN_API ConstTrackDispatcher
 {
 public:

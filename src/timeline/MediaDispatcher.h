@@ -8,6 +8,7 @@
 namespace tarn {
 
 /// Receives a media as what it is: Media::receiveDispatcher calls the overload of its own class.
+/// Takes no lock; the caller of receiveDispatcher() holds what its work needs.
 class TARN_API MediaDispatcher
 {
 public:

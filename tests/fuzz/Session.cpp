@@ -8,6 +8,7 @@
 #include "commands/CommandHistory.h"
 #include "exceptions/CollisionException.h"
 #include "exceptions/TarnMediaLibException.h"
+#include "project/ReadWriteMutex.h"
 #include "timeline/ImageMedia.h"
 #include "timeline/MediaImpl.h"
 
@@ -26,6 +27,13 @@ std::size_t const k_shownDifferences = 12;
 /// The stage outside a test.
 class FuzzStage : public Stage
 {
+public:
+    explicit FuzzStage(LockPolicy policy)
+    {
+        project = InternalProject::create(boost::rational<unsigned long>(30, 1), policy);
+    }
+
+private:
     void TestBody() override {}
 };
 
@@ -109,15 +117,23 @@ void Figures::add(Figures const& other)
         limits[limit.first] += limit.second;
 }
 
-Session::Session(Script const& script) : m_script(script), m_stage(new FuzzStage) {}
+Session::Session(Script const& script, LockPolicy policy)
+    : m_script(script), m_stage(new FuzzStage(policy))
+{}
 
 Session::~Session() = default;
 
-bool Session::run()
+void Session::begin()
 {
     m_stage->begin(m_script.strip);
     m_model = model();
     m_naive.copy(*m_stage);
+}
+
+bool Session::run()
+{
+    if (!m_model)
+        begin();
     try {
         for (Step const& step : m_script.steps)
             runStep(step);
@@ -303,7 +319,11 @@ void Session::runHistoryStep(Step const& step)
     case Op::UndoLimit:
         m_limit = limits[step.numbers[0] % 6];
         write("", "project->commandHistory()->setUndoLimit(" + std::to_string(m_limit) + ");");
-        project.commandHistory()->setUndoLimit(m_limit);
+        {
+            // The history has no lock of its own, and what it drops may be what others read.
+            ReadWriteMutex::ScopedWriteLock const lock(project.mutex());
+            project.commandHistory()->setUndoLimit(m_limit);
+        }
         applyLimit();
         compare({step.op}, Phase::Executed, m_model, model());
         break;
@@ -421,7 +441,10 @@ void Session::checkSizes()
 
 Session::State Session::model() const
 {
-    return State(new Fingerprint(*m_stage));
+    State const state(new Fingerprint(*m_stage));
+    if (m_listener)
+        m_listener(*state);
+    return state;
 }
 
 void Session::compare(std::set<Op> const& ops, Phase phase, State const& wanted, State const& found)

@@ -6,11 +6,13 @@
 #include "fuzz/NaiveModel.h"
 
 #include "commands/CommandHistoryState.h"
+#include "project/LockPolicy.h"
 
 #include <boost/shared_ptr.hpp>
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -46,8 +48,17 @@ struct Figures
 class Session
 {
 public:
-    explicit Session(Script const& script);
+    using Listener = std::function<void(Fingerprint const&)>;
+
+    explicit Session(Script const& script, LockPolicy policy = LockPolicy::Counted);
     ~Session();
+
+    /// Is told each model that an edit leaves, on the thread of the session.
+    void setListener(Listener const& listener) { m_listener = listener; }
+    /// Makes the first model, for those who want to look at it before run() goes on.
+    void begin();
+    /// Where the session is run; other threads may look at it under a read lock once it has begun.
+    Stage const& stage() const { return *m_stage; }
 
     /// @return whether no fault was found
     bool run();
@@ -108,6 +119,7 @@ private:
 
     Script m_script;
     std::unique_ptr<Stage> m_stage;
+    Listener m_listener;
     NaiveModel m_naive;
     Figures m_figures;
     State m_model;
