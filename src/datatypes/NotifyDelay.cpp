@@ -3,8 +3,8 @@
 #include "datatypes/Subject.h"
 
 #include <atomic>
+#include <deque>
 #include <exception>
-#include <list>
 #include <mutex>
 #include <vector>
 
@@ -23,21 +23,31 @@ struct NotifyDelay::Queue
         // The same object where it counts its entries; empty for a host's own kind of observable.
         Subject const* subject;
     };
-    using Entries = std::list<Entry>;
+    /// The notification that one delivery is at; delivering nests when an observer edits.
+    struct Told
+    {
+        Entry entry{nullptr, nullptr};
+        Told* outer = nullptr;
+        bool isTold = false;
+    };
 
     void add(Entry const& entry);
-    /// Takes the front entry out of the queue and puts it with those being told.
+    /// Ends the telling of what `told` is at and begins the next, which leaves the queue.
     /// @return false when nothing waits, or a delay is open again
-    bool beginTelling(Entries::iterator& told);
-    void endTelling(Entries::iterator told);
+    bool tellNext(Told& told);
     void remove(Observable const* observable);
+    void remove(Subject const* subject);
     std::vector<Observable const*> observables();
 
     std::atomic<int> s_refCount{0};
     std::mutex mutex;
-    Entries s_subjects;
-    // More than one when an observer edits. The entry of what has died meanwhile is empty.
-    Entries beingTold;
+    // The entry of what has died meanwhile is empty.
+    std::deque<Entry> s_subjects;
+    Told* beingTold = nullptr;
+
+private:
+    static bool takeOut(Entry& entry, Observable const* observable);
+    void removeFromTold(Observable const* observable);
 };
 
 void NotifyDelay::Queue::Entry::count(int change) const
@@ -54,38 +64,62 @@ void NotifyDelay::Queue::add(Entry const& entry)
     entry.count(1);
 }
 
-bool NotifyDelay::Queue::beginTelling(Entries::iterator& told)
+bool NotifyDelay::Queue::tellNext(Told& told)
 {
     std::lock_guard<std::mutex> const guard(mutex);
+    if (told.isTold) {
+        told.entry.count(-1);
+        beingTold = told.outer;
+        told.isTold = false;
+    }
+    while (!s_subjects.empty() && !s_subjects.front().observable) {
+        s_subjects.pop_front();
+    }
     if (s_refCount > 0 || s_subjects.empty()) {
         return false;
     }
-    told = s_subjects.begin();
-    beingTold.splice(beingTold.end(), s_subjects, told);
+    told.entry = s_subjects.front();
+    s_subjects.pop_front();
+    told.outer = beingTold;
+    beingTold = &told;
+    told.isTold = true;
     return true;
 }
 
-void NotifyDelay::Queue::endTelling(Entries::iterator told)
+bool NotifyDelay::Queue::takeOut(Entry& entry, Observable const* observable)
 {
-    std::lock_guard<std::mutex> const guard(mutex);
-    told->count(-1);
-    beingTold.erase(told);
+    if (!entry.isOf(observable)) {
+        return false;
+    }
+    entry.count(-1);
+    entry = Entry{nullptr, nullptr};
+    return true;
+}
+
+void NotifyDelay::Queue::removeFromTold(Observable const* observable)
+{
+    for (Told* told = beingTold; told; told = told->outer) {
+        takeOut(told->entry, observable);
+    }
 }
 
 void NotifyDelay::Queue::remove(Observable const* observable)
 {
     std::lock_guard<std::mutex> const guard(mutex);
-    s_subjects.remove_if([observable](Entry const& entry) {
-        if (entry.isOf(observable)) {
-            entry.count(-1);
-        }
-        return entry.isOf(observable);
-    });
-    for (Entry& entry : beingTold) {
-        if (entry.isOf(observable)) {
-            entry.count(-1);
-            entry = Entry{nullptr, nullptr};
-        }
+    removeFromTold(observable);
+    for (Entry& entry : s_subjects) {
+        takeOut(entry, observable);
+    }
+}
+
+void NotifyDelay::Queue::remove(Subject const* subject)
+{
+    std::lock_guard<std::mutex> const guard(mutex);
+    removeFromTold(subject);
+    // What dies has mostly changed last: from the newest on, and no further than to its first.
+    auto const end = s_subjects.rend();
+    for (auto entry = s_subjects.rbegin(); subject->m_queueCount > 0 && entry != end; ++entry) {
+        takeOut(*entry, subject);
     }
 }
 
@@ -93,13 +127,15 @@ std::vector<Observable const*> NotifyDelay::Queue::observables()
 {
     std::lock_guard<std::mutex> const guard(mutex);
     std::vector<Observable const*> result;
-    for (Entry const& entry : beingTold) {
-        if (entry.observable) {
-            result.push_back(entry.observable);
+    for (Told const* told = beingTold; told; told = told->outer) {
+        if (told->entry.observable) {
+            result.push_back(told->entry.observable);
         }
     }
     for (Entry const& entry : s_subjects) {
-        result.push_back(entry.observable);
+        if (entry.observable) {
+            result.push_back(entry.observable);
+        }
     }
     return result;
 }
@@ -126,17 +162,16 @@ NotifyDelay::~NotifyDelay() noexcept(false)
 void NotifyDelay::deliver()
 {
     std::exception_ptr first;
-    Queue::Entries::iterator told;
+    Queue::Told told;
     // An observer may open a delay of its own, whose end then delivers what waits here.
-    while (queue().beginTelling(told)) {
+    while (queue().tellNext(told)) {
         try {
-            told->observable->notify();
+            told.entry.observable->notify();
         } catch (...) {
             if (!first) {
                 first = std::current_exception();
             }
         }
-        queue().endTelling(told);
     }
     if (first && std::uncaught_exceptions() == 0) {
         std::rethrow_exception(first);
@@ -166,6 +201,11 @@ void NotifyDelay::addObservable(Subject const* subject)
 void NotifyDelay::removeObservable(Observable const* observable)
 {
     queue().remove(observable);
+}
+
+void NotifyDelay::removeObservable(Subject const* subject)
+{
+    queue().remove(subject);
 }
 
 void NotifyDelay::removeObserver(Observer* observer)

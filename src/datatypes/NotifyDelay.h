@@ -29,6 +29,7 @@ public:
     static void addObservable(Subject const* subject);
     /// Drops every entry of what dies, the one being told included.
     static void removeObservable(Observable const* observable);
+    static void removeObservable(Subject const* subject);
     /// Detaches what dies from every subject that waits or is being told.
     static void removeObserver(Observer* observer);
 
