@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/CommandHistoryState.h"
+#include "commands/CommandStack.h"
 #include "commands/CommandsFwd.h"
 #include "datatypes/Cloneable.h"
 #include "datatypes/Export.h"
@@ -11,7 +12,6 @@
 #include <boost/shared_ptr.hpp>
 
 #include <cstddef>
-#include <list>
 #include <string>
 
 namespace tarn {
@@ -36,6 +36,7 @@ public:
     /// With a copy of every command, and without a handler.
     CommandHistory* clone() const override;
 
+    /// What commands are given from now on; not owned.
     void setCommandHandler(CommandHandler* handler) { m_handler = handler; }
 
     /// Runs a command and records it, which drops what could be redone.
@@ -48,7 +49,9 @@ public:
     /// Does not apply the undo limit.
     /// @throws TarnMediaLibException "no commands to redo", and what the command throws
     void redo();
+    /// Undoes until nothing is left. @throws what undo() throws
     void undoAll();
+    /// Redoes until nothing is left. @throws what redo() throws
     void redoAll();
     /// Drops what could be redone; does not notify.
     void dropRedoCommands();
@@ -66,7 +69,8 @@ public:
 
     /// How many commands can be undone at most; negative, as at first, for no limit.
     int undoLimit() const { return m_undoLimit; }
-    /// Drops the oldest at once that are too many, without undoing them.
+    /// Drops the oldest at once that are too many, without undoing them. A host with other threads
+    /// holds the project's write lock meanwhile: what is dropped may be the last owner of objects.
     void setUndoLimit(int limit);
 
     std::size_t numUndoCommands() const { return m_undoCommands.size(); }
@@ -79,7 +83,6 @@ public:
     void xmlOfUndoCommands(XMLable::Options& options, int indent) const;
 
 private:
-    using CommandList = std::list<boost::shared_ptr<Command>>;
     class Run;
 
     CommandHistory(CommandHistory const& other);
@@ -88,16 +91,15 @@ private:
     boost::shared_ptr<Command const> getCurrentUndoStackTop() const;
     void removeExcessCommands();
     /// @return false when the list does not hold `top`; nothing has changed then
-    static bool unrollStack(CommandList& commands, boost::shared_ptr<Command const> const& top,
+    static bool unrollStack(CommandStack& commands, boost::shared_ptr<Command const> const& top,
                             CommandHandler* handler);
-    static void unrollEverything(CommandList& commands, CommandHandler* handler);
-    static void unrollPortion(CommandList& commands, boost::shared_ptr<Command const> const& top,
+    static void unrollEverything(CommandStack& commands, CommandHandler* handler);
+    static void unrollPortion(CommandStack& commands, boost::shared_ptr<Command const> const& top,
                               CommandHandler* handler);
 
     CommandHandler* m_handler;
-    // The newest last.
-    CommandList m_undoCommands;
-    CommandList m_redoCommands;
+    CommandStack m_undoCommands;
+    CommandStack m_redoCommands;
     int m_undoLimit;
     bool m_isRunning;
 };

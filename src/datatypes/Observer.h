@@ -22,6 +22,8 @@ class TARN_API Observer
 public:
     virtual ~Observer();
 
+    /// Something observed has changed; not told what. What it throws comes out of the edit once all
+    /// observers were called.
     virtual void observerUpdate() = 0;
 
 protected:

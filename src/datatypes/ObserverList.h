@@ -25,6 +25,7 @@ public:
     void attach(Observer* observer);
     /// Takes out every entry of that observer.
     void detach(Observer* observer);
+    /// Whether the observer stands in the list at least once.
     bool isAttached(Observer* observer) const;
     std::size_t size() const;
 

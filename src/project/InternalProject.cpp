@@ -7,6 +7,7 @@
 #include "commands/CommandObserver.h"
 #include "commands/DefaultEdgeModCommandHandler.h"
 #include "datatypes/NotifyDelay.h"
+#include "datatypes/UpdateCollector.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "project/ReadLockIfAny.h"
 #include "project/ReadWriteMutex.h"
@@ -21,23 +22,27 @@ char const k_version[] = "1.0";
 }  // namespace
 
 boost::shared_ptr<InternalProject> InternalProject::create(
-    boost::rational<unsigned long> const& rate)
+    boost::rational<unsigned long> const& rate, LockPolicy policy)
 {
     // Two stages, since what a project owns needs a weak pointer to it.
-    boost::shared_ptr<InternalProject> const project(new InternalProject(rate));
+    boost::shared_ptr<InternalProject> const project(new InternalProject(rate, policy));
     project->init();
     return project;
 }
 
-InternalProject::InternalProject(boost::rational<unsigned long> const& rate)
+InternalProject::InternalProject(boost::rational<unsigned long> const& rate, LockPolicy policy)
     : m_commandHistory(new CommandHistory(this))
     , m_editRate(rate)
     , m_version(k_version)
-    , m_mutex(new ReadWriteMutex)
+    , m_mutex(new ReadWriteMutex(policy))
     , m_commandObserver(nullptr)
     , m_edgeModCommandHandler(new DefaultEdgeModCommandHandler)
     , m_combineNextCommand(false)
-{}
+{
+    // Made now, as later they are first asked for when the model has changed, and must not fail.
+    NotifyDelay::isActive();
+    UpdateCollector::instance();
+}
 
 // Author, comment and system are not carried over: they belong to the document, not to its copy.
 InternalProject::InternalProject(InternalProject const& other)

@@ -1,5 +1,6 @@
 #include "timeline/MediaImpl.h"
 
+#include "datatypes/XmlText.h"
 #include "edgemods/AuxEdgeModInfo.h"
 #include "edgemods/EdgeModCloneUtil.h"
 #include "edgemods/EdgeModFunc.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <memory>
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
@@ -95,9 +97,9 @@ EdgeModification takeOut(ModificationList& modifications,
     ModificationList::const_iterator const found = findFor(modifications, parameter);
     if (found == modifications.end())
         throw TarnMediaLibException(refusal);
-    EdgeModification const removed = *found;
-    modifications.erase(found);
-    return removed;
+    ModificationList removed;
+    removed.splice(removed.end(), modifications, found);
+    return std::move(removed.front());
 }
 
 /// Those of `originals` that have a parameter on `target`, in order, for a list of `target`'s.
@@ -137,14 +139,14 @@ void aimFunctionsAt(ModificationList& modifications,
 
 void printEdgeModXML(EdgeModification const& modification, XMLable::Options& options, int indent)
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<EdgeMod parameter=\"";
+    XmlText out(options);
+    out.indent(indent) << "<EdgeMod parameter=\"";
     if (modification.parameter())
         out << modification.parameter()->xmlIdent();
     // Kept so: the function's element follows on the same line.
     out << "\">";
     modification.func().toXML(options, indent + 1, "");
-    out << XMLable::genIndent(indent) << "</EdgeMod>\n";
+    out.indent(indent) << "</EdgeMod>\n";
 }
 
 }  // namespace
@@ -160,7 +162,7 @@ struct MediaImpl::EdgeRoom
 MediaImpl::EdgeRoom MediaImpl::edgeRoom() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    long long const duration = m_trackRange.duration;
+    long long const duration = m_place.range.duration;
     return EdgeRoom{limitedEdgeLength(duration, m_leftEdgeLength, m_rightEdgeLength),
                     limitedEdgeLength(duration, m_rightEdgeLength, m_leftEdgeLength), duration};
 }
@@ -254,7 +256,7 @@ void MediaImpl::addRightEdgeModification(EdgeModification const& modification)
 EdgeModification MediaImpl::removeLeftEdgeModification(
     boost::shared_ptr<Parameter<double> const> const& parameter)
 {
-    EdgeModification const removed =
+    EdgeModification removed =
         takeOut(m_leftEdgeMods, parameter, "trying to remove non existant left edge mod");
     notify();
     return removed;
@@ -263,7 +265,7 @@ EdgeModification MediaImpl::removeLeftEdgeModification(
 EdgeModification MediaImpl::removeRightEdgeModification(
     boost::shared_ptr<Parameter<double> const> const& parameter)
 {
-    EdgeModification const removed =
+    EdgeModification removed =
         takeOut(m_rightEdgeMods, parameter, "trying to remove non existant right edge mod");
     notify();
     return removed;
@@ -283,17 +285,15 @@ void MediaImpl::aimEdgeFunctionsAt(boost::shared_ptr<VisualMedia const> const& m
 
 void MediaImpl::printEdgeModsXML(XMLable::Options& options, int indent) const
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<LeftEdgeMods length=\"" << leftEdgeModificationLength()
-        << "\">\n";
+    XmlText out(options);
+    out.indent(indent) << "<LeftEdgeMods length=\"" << leftEdgeModificationLength() << "\">\n";
     for (EdgeModification const& modification : leftEdgeModifications())
         printEdgeModXML(modification, options, indent + 1);
-    out << XMLable::genIndent(indent) << "</LeftEdgeMods>\n";
-    out << XMLable::genIndent(indent) << "<RightEdgeMods length=\"" << rightEdgeModificationLength()
-        << "\">\n";
+    out.indent(indent) << "</LeftEdgeMods>\n";
+    out.indent(indent) << "<RightEdgeMods length=\"" << rightEdgeModificationLength() << "\">\n";
     for (EdgeModification const& modification : rightEdgeModifications())
         printEdgeModXML(modification, options, indent + 1);
-    out << XMLable::genIndent(indent) << "</RightEdgeMods>\n";
+    out.indent(indent) << "</RightEdgeMods>\n";
 }
 
 }  // namespace tarn

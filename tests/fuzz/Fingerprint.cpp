@@ -412,6 +412,17 @@ Fingerprint::Fingerprint(Stage const& stage)
     writer.writeBins(stage);
 }
 
+std::uint64_t Fingerprint::number() const
+{
+    std::uint64_t sum = 0;
+    for (Word const& word : m_words) {
+        mix(sum, static_cast<std::uint64_t>(word.field));
+        mix(sum, bits(word.owner));
+        mix(sum, word.value);
+    }
+    return sum;
+}
+
 std::uint64_t Fingerprint::valueOf(Field field, void const* owner, std::uint64_t absent) const
 {
     for (Word const& word : m_words)

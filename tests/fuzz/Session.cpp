@@ -8,6 +8,7 @@
 #include "commands/CommandHistory.h"
 #include "exceptions/CollisionException.h"
 #include "exceptions/TarnMediaLibException.h"
+#include "project/ReadWriteMutex.h"
 #include "timeline/ImageMedia.h"
 #include "timeline/MediaImpl.h"
 
@@ -29,6 +30,13 @@ int const k_longLimit = 40;
 /// The stage outside a test.
 class FuzzStage : public Stage
 {
+public:
+    explicit FuzzStage(LockPolicy policy)
+    {
+        project = InternalProject::create(boost::rational<unsigned long>(30, 1), policy);
+    }
+
+private:
     void TestBody() override {}
 };
 
@@ -112,8 +120,12 @@ void Figures::add(Figures const& other)
         limits[limit.first] += limit.second;
 }
 
+Session::Session(Script const& script, LockPolicy policy)
+    : m_script(script), m_isPart(false), m_stage(new FuzzStage(policy))
+{}
+
 Session::Session(Script const& script, boost::shared_ptr<InternalProject> const& project)
-    : m_script(script), m_isPart(project), m_stage(new FuzzStage)
+    : m_script(script), m_isPart(project), m_stage(new FuzzStage(LockPolicy::Counted))
 {
     if (project)
         m_stage->takeOver(project);
@@ -121,13 +133,19 @@ Session::Session(Script const& script, boost::shared_ptr<InternalProject> const&
 
 Session::~Session() = default;
 
-bool Session::run()
+void Session::begin()
 {
     m_stage->begin(m_script.strip);
     if (m_isPart)
         setLimit(k_longLimit);
     m_model = model();
     m_naive.copy(*m_stage);
+}
+
+bool Session::run()
+{
+    if (!m_model)
+        begin();
     try {
         for (Step const& step : m_script.steps)
             runStep(step);
@@ -412,7 +430,11 @@ void Session::setLimit(int limit)
 {
     m_limit = limit;
     write("", "project->commandHistory()->setUndoLimit(" + std::to_string(m_limit) + ");");
-    m_stage->project->commandHistory()->setUndoLimit(m_limit);
+    {
+        // The history has no lock of its own, and what it drops may be what others read.
+        ReadWriteMutex::ScopedWriteLock const lock(m_stage->project->mutex());
+        m_stage->project->commandHistory()->setUndoLimit(m_limit);
+    }
     applyLimit();
 }
 
@@ -436,7 +458,10 @@ void Session::checkSizes()
 
 Session::State Session::model() const
 {
-    return State(new Fingerprint(*m_stage));
+    State const state(new Fingerprint(*m_stage));
+    if (m_listener)
+        m_listener(*state);
+    return state;
 }
 
 void Session::compare(std::set<Op> const& ops, Phase phase, State const& wanted, State const& found)
