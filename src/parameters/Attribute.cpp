@@ -80,6 +80,16 @@ template <class T>
 void Attribute<T>::xmlBody(XMLable::Options&, int) const
 {}
 
+template <class T>
+void Attribute<T>::xmlBeforeFirstUse(XMLable::Options& options, int indent,
+                                     std::string const& label, T const& value, unsigned int ident)
+{
+    std::ostream& out = *options.stream;
+    out << genIndent(indent) << "<Attribute id=\"" << ident << "\" value=\"" << printable(value)
+        << "\" " << label << ">\n";
+    out << genIndent(indent) << "</Attribute>\n";
+}
+
 template class Attribute<float>;
 template class Attribute<double>;
 template class Attribute<unsigned int>;

@@ -41,6 +41,12 @@ public:
     virtual boost::shared_ptr<ParameterInterface const> paramWithName(
         std::string const& name) const;
 
+    /// Whether doubleParametricTransform() gives back at all times what that parameter stores; null
+    /// stands for one that nobody has asked for yet. The caller holds the read lock. Here false;
+    /// what overrides doubleParametricTransform() below a class that says otherwise overrides this
+    /// as well.
+    virtual bool showsAsStored(ParameterInterface const* parameter) const;
+
     /// The value of one of the owner's parameters as it is shown at a local time.
     /// @throws KeyFrameException(0) when the parameter has no key frame
     double transformedDoubleParameterValueAtTime(

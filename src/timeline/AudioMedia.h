@@ -1,6 +1,6 @@
 #pragma once
 
-#include "parameters/ParametersFwd.h"
+#include "parameters/LateDoubleParam.h"
 #include "timeline/MediaImpl.h"
 #include "timeline/TemporalEditor.h"
 
@@ -23,10 +23,13 @@ public:
 
     unsigned int sampleRate() const { return m_sampleRate; }
     unsigned int bitDepth() const { return m_bitDepth; }
-    boost::shared_ptr<InterpolatingParam<double>> volume() { return m_volume; }
-    boost::shared_ptr<InterpolatingParam<double> const> volume() const { return m_volume; }
-    boost::shared_ptr<InterpolatingParam<double>> gain() { return m_gain; }
-    boost::shared_ptr<InterpolatingParam<double> const> gain() const { return m_gain; }
+    boost::shared_ptr<InterpolatingParam<double>> volume() { return m_volume.get(*this); }
+    boost::shared_ptr<InterpolatingParam<double> const> volume() const
+    {
+        return m_volume.get(*this);
+    }
+    boost::shared_ptr<InterpolatingParam<double>> gain() { return m_gain.get(*this); }
+    boost::shared_ptr<InterpolatingParam<double> const> gain() const { return m_gain.get(*this); }
 
     MediaEditor& mediaEditor() override { return m_editor; }
     MediaEditor const& mediaEditor() const override { return m_editor; }
@@ -44,8 +47,8 @@ protected:
 private:
     unsigned int m_sampleRate;
     unsigned int m_bitDepth;
-    boost::shared_ptr<InterpolatingParam<double>> m_volume;
-    boost::shared_ptr<InterpolatingParam<double>> m_gain;
+    LateDoubleParam m_volume;
+    LateDoubleParam m_gain;
     TemporalEditor m_editor;
 };
 

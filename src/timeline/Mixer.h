@@ -114,6 +114,8 @@ public:
     int numEffects() const override;
 
     // Parameters run on the timeline's clock, so each conversion gives its argument back.
+    /// Always.
+    bool showsAsStored(ParameterInterface const* parameter) const override;
     double toParameterTime(double time) const override;
     double fromParameterTime(double time) const override;
     long long fromGlobalToParametricTime(long long time) const override;

@@ -22,7 +22,7 @@ class TARN_API SourceTrack
 public:
     /// @throws TarnMediaLibException `refusal` when the source is empty or lacks that track
     SourceTrack(boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
-                std::string const& refusal);
+                char const* refusal);
     explicit SourceTrack(std::string const& fileName);
     SourceTrack(SourceTrack const& other);
     SourceTrack& operator=(SourceTrack const& other) = delete;

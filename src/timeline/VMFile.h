@@ -1,6 +1,7 @@
 #pragma once
 
 #include "datatypes/FileRepresentation.h"
+#include "datatypes/LateObject.h"
 #include "timeline/VideoMedia.h"
 #include "timeline/VisualFileMedia.h"
 
@@ -52,12 +53,16 @@ protected:
 private:
     friend class MediaImpl;  // its cloneOf() copies
 
+    using MetaDataAttribute = Attribute<boost::shared_ptr<ScreenMetaData const>>;
+
+    boost::shared_ptr<MetaDataAttribute> const& metaDataAttribute() const;
+
     VMFile(Range<long long> const& range, SourceTrack const& track,
            boost::weak_ptr<ThreadSafe const> const& project);
 
     VisualFileMedia m_file;
     Rect<float> m_rect;
-    boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>>> m_screenMetaData;
+    LateObject<MetaDataAttribute, 1> m_screenMetaData;
 };
 
 }  // namespace tarn

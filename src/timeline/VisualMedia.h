@@ -3,7 +3,8 @@
 #include "datatypes/Rect.h"
 #include "datatypes/TransformMatrix.h"
 #include "datatypes/Transformer.h"
-#include "parameters/ParametersFwd.h"
+#include "parameters/LateDoubleParam.h"
+#include "parameters/LateVectorParam.h"
 #include "timeline/MediaImpl.h"
 
 namespace tarn {
@@ -22,12 +23,24 @@ public:
     virtual double width() const = 0;
     virtual double height() const = 0;
 
-    boost::shared_ptr<VectorParam> sourceCropParam() { return m_sourceCrop; }
-    boost::shared_ptr<VectorParam const> sourceCropParam() const { return m_sourceCrop; }
-    boost::shared_ptr<VectorParam> geometryCropParam() { return m_geometryCrop; }
-    boost::shared_ptr<VectorParam const> geometryCropParam() const { return m_geometryCrop; }
-    boost::shared_ptr<InterpolatingParam<double>> opacity() { return m_opacity; }
-    boost::shared_ptr<InterpolatingParam<double> const> opacity() const { return m_opacity; }
+    boost::shared_ptr<VectorParam> sourceCropParam() { return m_sourceCrop.get(*this); }
+    boost::shared_ptr<VectorParam const> sourceCropParam() const { return m_sourceCrop.get(*this); }
+    boost::shared_ptr<VectorParam> geometryCropParam() { return m_geometryCrop.get(*this); }
+    boost::shared_ptr<VectorParam const> geometryCropParam() const
+    {
+        return m_geometryCrop.get(*this);
+    }
+    boost::shared_ptr<InterpolatingParam<double>> opacity() { return m_opacity.get(*this); }
+    boost::shared_ptr<InterpolatingParam<double> const> opacity() const
+    {
+        return m_opacity.get(*this);
+    }
+
+    /// How many numbers say how a picture is shown: those of parameterVector(), in its order.
+    static int constexpr k_numShownValues = 23;
+    /// All of them at a local time, each as transformedDoubleParameterValueAtTime() tells it, read
+    /// together: what a renderer asks at every frame. Makes no parameter and allocates nothing.
+    void shownValuesAtTime(double time, double* values) const;
 
     /// What the crop leaves of the picture.
     Rect<double> sourceCropRectAtTime(long long time) const;
@@ -48,11 +61,11 @@ protected:
     VisualMedia(VisualMedia const& other);
 
 private:
-    Rect<double> cropRectAtTime(VectorParam const& crop, long long time) const;
+    Rect<double> cropRectAtTime(LateVectorParam<4> const& crop, long long time) const;
 
-    boost::shared_ptr<VectorParam> m_sourceCrop;
-    boost::shared_ptr<VectorParam> m_geometryCrop;
-    boost::shared_ptr<InterpolatingParam<double>> m_opacity;
+    LateVectorParam<4> m_sourceCrop;
+    LateVectorParam<4> m_geometryCrop;
+    LateDoubleParam m_opacity;
 };
 
 }  // namespace tarn
