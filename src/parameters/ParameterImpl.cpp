@@ -20,17 +20,24 @@ namespace tarn {
 namespace {
 
 /// How many of the ascending times lie before `time`. Without a jump that depends on them, as at
-/// random times the processor would guess every second one wrong.
+/// random times the processor would guess every second one wrong; and three at a time, as it can
+/// fetch them together.
 std::size_t countBefore(long long const* times, std::size_t count, long long time)
 {
+    std::size_t const few = 8;
+    auto const isBefore = [time](long long other) { return std::size_t(other < time); };
     long long const* base = times;
-    while (count > 1) {
-        std::size_t const half = count / 2;
-        base += base[half - 1] < time ? half : 0;
-        count -= half;
+    while (count > few) {
+        std::size_t const quarter = count / 4;
+        std::size_t const passed = isBefore(base[quarter - 1]) + isBefore(base[2 * quarter - 1]) +
+                                   isBefore(base[3 * quarter - 1]);
+        base += passed * quarter;
+        count -= 3 * quarter;
     }
-    std::size_t const before = static_cast<std::size_t>(base - times);
-    return count == 1 && *base < time ? before + 1 : before;
+    std::size_t before = static_cast<std::size_t>(base - times);
+    for (std::size_t i = 0; i < count; ++i)
+        before += isBefore(base[i]);
+    return before;
 }
 
 /// A copy of what a frame's class makes of itself; in one piece where that is the plain one.
