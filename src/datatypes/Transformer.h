@@ -26,6 +26,7 @@ public:
     Transformer& operator=(Transformer const& other) = delete;
     virtual ~Transformer();
 
+    /// Pixels along x, y and z.
     boost::shared_ptr<VectorParam> translation() { return m_translation.get(m_project); }
     boost::shared_ptr<VectorParam const> translation() const
     {
@@ -37,6 +38,7 @@ public:
     /// Radians along x and y.
     boost::shared_ptr<VectorParam> shear() { return m_shear.get(m_project); }
     boost::shared_ptr<VectorParam const> shear() const { return m_shear.get(m_project); }
+    /// Factors along x, y and z; 1 is natural size.
     boost::shared_ptr<VectorParam> scale() { return m_scale.get(m_project); }
     boost::shared_ptr<VectorParam const> scale() const { return m_scale.get(m_project); }
     /// The point that rotation and scale leave where it is, before translation.
