@@ -40,6 +40,12 @@ public:
         return m_opacity.get(*this);
     }
 
+    /// How many numbers say how a picture is shown: those of parameterVector(), in its order.
+    static int constexpr k_numShownValues = 23;
+    /// All of them at a local time, each as transformedDoubleParameterValueAtTime() tells it, read
+    /// together: what a renderer asks at every frame. Makes no parameter and allocates nothing.
+    void shownValuesAtTime(double time, double* values) const;
+
     /// What the crop leaves of the picture.
     Rect<double> sourceCropRectAtTime(long long time) const;
     /// The same of the geometry crop.
