@@ -174,8 +174,8 @@ T ParameterImpl<T>::valueAtTime(double time) const
     long long const whole = clampedTruncate(time);
     bool const isPastWhole = time > static_cast<double>(whole);
     if (isPastWhole)
-        return valueBetween(firstIndexAfter(whole), time);
-    std::size_t const right = firstIndexNotBefore(whole);
+        return valueBetween(countBefore(times, count, whole + 1), time);
+    std::size_t const right = countBefore(times, count, whole);
     if (right < count && time == static_cast<double>(times[right]))
         return m_frames.frame(right)->value();
     return valueBetween(right, time);
