@@ -1,12 +1,11 @@
 #include "datatypes/Transformer.h"
 
 #include "datatypes/GraphicsUtil.h"
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
 #include "parameters/VectorParam.h"
 #include "project/ReadWriteMutex.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -118,13 +117,13 @@ TransformMatrix Transformer::calcTransformAtTimeWithTranslation(Parametric const
 
 void Transformer::genXMLForTransformer(XMLable::Options& options, int indent) const
 {
-    *options.stream << XMLable::genIndent(indent) << "<Transformer>\n";
+    XmlText(options).indent(indent) << "<Transformer>\n";
     m_translation.toXML(options, indent + 1);
     m_rotation.toXML(options, indent + 1);
     m_shear.toXML(options, indent + 1);
     m_scale.toXML(options, indent + 1);
     m_anchor.toXML(options, indent + 1);
-    *options.stream << XMLable::genIndent(indent) << "</Transformer>\n";
+    XmlText(options).indent(indent) << "</Transformer>\n";
 }
 
 void Transformer::addTransformerParametersToParameters(

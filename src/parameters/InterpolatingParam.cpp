@@ -1,6 +1,7 @@
 #include "parameters/InterpolatingParam.h"
 
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "parameters/ConstParameterDispatcher.h"
 #include "parameters/LeftParameter.h"
 #include "parameters/LinearInterpolater.h"
@@ -10,7 +11,6 @@
 #include "project/ReadWriteMutex.h"
 
 #include <cstring>
-#include <ostream>
 #include <sstream>
 #include <type_traits>
 #include <utility>
@@ -185,14 +185,14 @@ std::string InterpolatingParam<T>::ident() const
 template <class T>
 void InterpolatingParam<T>::xmlBody(XMLable::Options& options, int indent) const
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<Parameters>\n";
+    XmlText out(options);
+    out.indent(indent) << "<Parameters>\n";
     typename LateObject<InterpolaterParam, 2>::Idents idents;
     if (m_interpolater.waitingIdents(idents))
         xmlOfLinear(options, indent + 1, idents[0]);
     else
         m_interpolater.ifMade()->toXML(options, indent + 1, "name=\"interpolater\"");
-    out << XMLable::genIndent(indent) << "</Parameters>\n";
+    out.indent(indent) << "</Parameters>\n";
     this->xmlOfKeyframes(options, indent);
 }
 
@@ -220,37 +220,37 @@ void InterpolatingParam<T>::xmlBeforeFirstUse(XMLable::Options& options, int ind
                                               std::string const& label, T const& initial,
                                               unsigned int const* idents)
 {
-    std::ostream& out = *options.stream;
-    std::string const margin = XMLable::genIndent(indent);
-    out << margin << "<InterpolatingParam id=\"" << idents[0] << "\"  " << label << ">\n";
-    out << margin << " <Parameters>\n";
+    XmlText out(options);
+    out.indent(indent) << "<InterpolatingParam id=\"" << idents[0] << "\"  " << label << ">\n";
+    out.indent(indent + 1) << "<Parameters>\n";
     xmlOfLinear(options, indent + 2, idents[2]);
-    out << margin << " </Parameters>\n";
-    out << margin << " <Keyframes>\n";
-    out << margin << "  <Keyframe time=\"" << 0 << "\" value=\""
-        << xml_representation(KeyFrame<T>(0, initial)) << "\"/>\n";
-    out << margin << " </Keyframes>\n";
-    out << margin << "</InterpolatingParam>\n";
+    out.indent(indent + 1) << "</Parameters>\n";
+    out.indent(indent + 1) << "<Keyframes>\n";
+    out.indent(indent + 2) << "<Keyframe time=\"" << 0 << "\" value=\"";
+    writeValue(out, KeyFrame<T>(0, initial));
+    out << "\"/>\n";
+    out.indent(indent + 1) << "</Keyframes>\n";
+    out.indent(indent) << "</InterpolatingParam>\n";
 }
 
 /// The element of the interpolaters' parameter while it is not made.
 template <class T>
 void InterpolatingParam<T>::xmlOfLinear(XMLable::Options& options, int indent, unsigned int ident)
 {
-    std::ostream& out = *options.stream;
-    std::string const margin = XMLable::genIndent(indent);
-    out << margin << "<Parameter id=\"" << ident << "\"  name=\"interpolater\">\n";
-    out << margin << " <Keyframes>\n";
-    out << margin << "  <Keyframe time=\"" << 0 << "\" value=\""
-        << xml_representation(LinearInterpolater<T>::instance()->id()) << "\"/>\n";
-    out << margin << " </Keyframes>\n";
-    out << margin << "</Parameter>\n";
+    XmlText out(options);
+    out.indent(indent) << "<Parameter id=\"" << ident << "\"  name=\"interpolater\">\n";
+    out.indent(indent + 1) << "<Keyframes>\n";
+    out.indent(indent + 2) << "<Keyframe time=\"" << 0 << "\" value=\""
+                           << xml_representation(LinearInterpolater<T>::instance()->id())
+                           << "\"/>\n";
+    out.indent(indent + 1) << "</Keyframes>\n";
+    out.indent(indent) << "</Parameter>\n";
 }
 
 template <class T>
 void InterpolatingParam<T>::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "InterpolatingParam";
+    XmlText(options) << "InterpolatingParam";
 }
 
 template <class T>

@@ -2,6 +2,7 @@
 
 #include "datatypes/ClampedCast.h"
 #include "datatypes/SaturatedArithmetic.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/KeyFrameException.h"
 #include "parameters/Interpolater.h"
 #include "parameters/XmlValue.h"
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <ostream>
 #include <typeinfo>
 #include <utility>
 
@@ -301,13 +301,14 @@ void ParameterImpl<T>::xmlOfKeyframes(XMLable::Options& options, int indent) con
 {
     if (m_frames.empty())
         return;
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<Keyframes>\n";
+    XmlText out(options);
+    out.indent(indent) << "<Keyframes>\n";
     for (std::size_t i = 0; i < m_frames.size(); ++i) {
-        out << XMLable::genIndent(indent + 1) << "<Keyframe time=\"" << m_frames.time(i)
-            << "\" value=\"" << xml_representation(*m_frames.frame(i)) << "\"/>\n";
+        out.indent(indent + 1) << "<Keyframe time=\"" << m_frames.time(i) << "\" value=\"";
+        writeValue(out, *m_frames.frame(i));
+        out << "\"/>\n";
     }
-    out << XMLable::genIndent(indent) << "</Keyframes>\n";
+    out.indent(indent) << "</Keyframes>\n";
 }
 
 // The sorted times.

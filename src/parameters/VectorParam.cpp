@@ -1,12 +1,12 @@
 #include "parameters/VectorParam.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "project/ReadWriteMutex.h"
 
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
-#include <ostream>
 #include <utility>
 
 namespace tarn {
@@ -75,7 +75,7 @@ VectorParam* VectorParam::clone() const
 
 void VectorParam::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VectorParam";
+    XmlText(options) << "VectorParam";
 }
 
 void VectorParam::xmlAttributes(XMLable::Options&) const {}
@@ -89,13 +89,13 @@ void VectorParam::xmlBody(XMLable::Options& options, int indent) const
 void VectorParam::xmlBeforeFirstUse(XMLable::Options& options, int indent, std::string const& label,
                                     int count, double initial, unsigned int const* idents)
 {
-    std::ostream& out = *options.stream;
-    out << genIndent(indent) << "<VectorParam id=\"" << idents[0] << "\"  " << label << ">\n";
+    XmlText out(options);
+    out.indent(indent) << "<VectorParam id=\"" << idents[0] << "\"  " << label << ">\n";
     for (int i = 0; i < count; ++i) {
         InterpolatingParam<double>::xmlBeforeFirstUse(options, indent + 1, "", initial,
                                                       idents + 2 + 4 * i);
     }
-    out << genIndent(indent) << "</VectorParam>\n";
+    out.indent(indent) << "</VectorParam>\n";
 }
 
 }  // namespace tarn
