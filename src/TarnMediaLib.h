@@ -48,6 +48,7 @@
 #include "commands/DefaultEdgeModCommandHandler.h"
 #include "commands/EdgeModCloneCmd.h"
 #include "commands/EdgeModCommandHandler.h"
+#include "commands/ForwardingHandler.h"
 #include "commands/InsertClippingCmd.h"
 #include "commands/InsertSpaceCmd.h"
 #include "commands/IntraMediaCutCmd.h"

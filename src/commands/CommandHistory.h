@@ -20,6 +20,10 @@ namespace tarn {
 ///
 /// Has no lock: a project runs it under its write lock. A command that throws while it is undone or
 /// redone is on neither list afterwards.
+///
+/// While a command runs, whoever it calls (a host's handler, a sentry, a loader) may only read
+/// here: every operation that changes a list throws TarnMediaLibException "a command is running"
+/// and changes nothing. Observers are called when the command is over, and may edit.
 class TARN_API CommandHistory : public TarnObject, public Cloneable, public Subject, public XMLable
 {
 public:
@@ -32,6 +36,7 @@ public:
     /// With a copy of every command, and without a handler.
     CommandHistory* clone() const override;
 
+    /// What commands are given from now on; not owned.
     void setCommandHandler(CommandHandler* handler) { m_handler = handler; }
 
     /// Runs a command and records it, which drops what could be redone.
@@ -44,7 +49,9 @@ public:
     /// Does not apply the undo limit.
     /// @throws TarnMediaLibException "no commands to redo", and what the command throws
     void redo();
+    /// Undoes until nothing is left. @throws what undo() throws
     void undoAll();
+    /// Redoes until nothing is left. @throws what redo() throws
     void redoAll();
     /// Drops what could be redone; does not notify.
     void dropRedoCommands();
@@ -77,6 +84,7 @@ public:
 
 private:
     using CommandList = std::list<boost::shared_ptr<Command>>;
+    class Run;
 
     CommandHistory(CommandHistory const& other);
     CommandHistory& operator=(CommandHistory const&) = delete;
@@ -95,6 +103,7 @@ private:
     CommandList m_undoCommands;
     CommandList m_redoCommands;
     int m_undoLimit;
+    bool m_isRunning;
 };
 
 }  // namespace tarn

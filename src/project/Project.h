@@ -39,6 +39,8 @@ public:
     /// @return false when the command found nothing to do, and so was not recorded
     /// @throws what the command throws; it is then not recorded
     /// @throws what an observer of the model throws, once all are told; the command stays recorded
+    /// @throws what combining throws; the command stays recorded as a step of its own, and the next
+    ///         one is to be combined with it
     virtual bool execute(boost::shared_ptr<Command> const& command) = 0;
     /// @throws TarnMediaLibException "no commands to undo", and what the command throws, which is
     ///         then lost
@@ -63,6 +65,7 @@ public:
     virtual boost::shared_ptr<Timeline> timeline() const = 0;
     virtual boost::shared_ptr<SourceBin> sourceBin() const = 0;
     virtual boost::shared_ptr<CommandHistory> commandHistory() const = 0;
+    /// What was copied; owned by the project, as are those above.
     virtual boost::shared_ptr<ClipBoard> clipBoard() = 0;
 
     /// Not undoable. Takes the write lock, and calls no command observer.

@@ -24,6 +24,9 @@ namespace {
 
 std::size_t const k_shownDifferences = 12;
 
+/// The undo limit of a long session.
+int const k_longLimit = 40;
+
 /// The stage outside a test.
 class FuzzStage : public Stage
 {
@@ -118,14 +121,23 @@ void Figures::add(Figures const& other)
 }
 
 Session::Session(Script const& script, LockPolicy policy)
-    : m_script(script), m_stage(new FuzzStage(policy))
+    : m_script(script), m_isPart(false), m_stage(new FuzzStage(policy))
 {}
+
+Session::Session(Script const& script, boost::shared_ptr<InternalProject> const& project)
+    : m_script(script), m_isPart(project), m_stage(new FuzzStage(LockPolicy::Counted))
+{
+    if (project)
+        m_stage->takeOver(project);
+}
 
 Session::~Session() = default;
 
 void Session::begin()
 {
     m_stage->begin(m_script.strip);
+    if (m_isPart)
+        setLimit(k_longLimit);
     m_model = model();
     m_naive.copy(*m_stage);
 }
@@ -317,14 +329,7 @@ void Session::runHistoryStep(Step const& step)
         m_combinesNext = true;
         break;
     case Op::UndoLimit:
-        m_limit = limits[step.numbers[0] % 6];
-        write("", "project->commandHistory()->setUndoLimit(" + std::to_string(m_limit) + ");");
-        {
-            // The history has no lock of its own, and what it drops may be what others read.
-            ReadWriteMutex::ScopedWriteLock const lock(project.mutex());
-            project.commandHistory()->setUndoLimit(m_limit);
-        }
-        applyLimit();
+        setLimit(limits[m_isPart ? 2 + step.numbers[0] % 4 : step.numbers[0] % 6]);
         compare({step.op}, Phase::Executed, m_model, model());
         break;
     case Op::TakeSnapshot:
@@ -419,6 +424,18 @@ void Session::combineRecords()
     m_undo.back().ops.insert(second.ops.begin(), second.ops.end());
     if (m_undo.back().op != second.op)
         m_undo.back().op = Op::Pair;
+}
+
+void Session::setLimit(int limit)
+{
+    m_limit = limit;
+    write("", "project->commandHistory()->setUndoLimit(" + std::to_string(m_limit) + ");");
+    {
+        // The history has no lock of its own, and what it drops may be what others read.
+        ReadWriteMutex::ScopedWriteLock const lock(m_stage->project->mutex());
+        m_stage->project->commandHistory()->setUndoLimit(m_limit);
+    }
+    applyLimit();
 }
 
 void Session::applyLimit()

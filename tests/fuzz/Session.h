@@ -6,6 +6,7 @@
 #include "fuzz/NaiveModel.h"
 
 #include "commands/CommandHistoryState.h"
+#include "project/InternalProject.h"
 #include "project/LockPolicy.h"
 
 #include <boost/shared_ptr.hpp>
@@ -51,6 +52,10 @@ public:
     using Listener = std::function<void(Fingerprint const&)>;
 
     explicit Session(Script const& script, LockPolicy policy = LockPolicy::Counted);
+    /// With a project, the session is one part of a long one: it begins by emptying that project,
+    /// which never has more than some commands to undo.
+    explicit Session(Script const& script, boost::shared_ptr<InternalProject> const& project =
+                                               boost::shared_ptr<InternalProject>());
     ~Session();
 
     /// Is told each model that an edit leaves, on the thread of the session.
@@ -95,6 +100,7 @@ private:
     {
     };
 
+    void setLimit(int limit);
     void runStep(Step const& step);
     void runCommand(Step const& step);
     void checkRefused(Op op, std::string const& thrown, NaiveModel::Outcome predicted);
@@ -118,6 +124,7 @@ private:
     void write(std::string const& code, std::string const& ending);
 
     Script m_script;
+    bool m_isPart;
     std::unique_ptr<Stage> m_stage;
     Listener m_listener;
     NaiveModel m_naive;
