@@ -29,7 +29,9 @@ public:
 
     WatchingEdgeModHandler(EdgeModCommandHandler& watched, PrimitiveHook const& hook)
         : m_watched(watched), m_hook(hook)
-    {}
+    {
+        m_primitive.reserve(64);
+    }
 
     void setLeftEdgeModificationLength(Target const& target, long long length) override
     {
@@ -65,13 +67,16 @@ public:
     }
 
 private:
-    void tell(std::string const& primitive, Target const& target) const
+    void tell(char const* primitive, Target const& target) const
     {
-        m_hook(primitive, boost::dynamic_pointer_cast<Media const>(target));
+        m_primitive = primitive;
+        m_hook(m_primitive, boost::dynamic_pointer_cast<Media const>(target));
     }
 
     EdgeModCommandHandler& m_watched;
     PrimitiveHook m_hook;
+    // With room for every name, so that it can be told when there is no memory.
+    mutable std::string m_primitive;
 };
 
 /// Stands between the commands and a project for as long as it lives: tells a hook of every
@@ -82,6 +87,7 @@ public:
     WatchingHandler(InternalProject& project, PrimitiveHook const& hook)
         : m_project(project), m_hook(hook), m_edges(*project.edgeModCommandHandler(), hook)
     {
+        m_primitive.reserve(64);
         m_project.setCommandHandler(this);
     }
     ~WatchingHandler() override { m_project.setCommandHandler(&m_project); }
@@ -319,14 +325,16 @@ public:
     }
 
 private:
-    void tell(std::string const& primitive,
+    void tell(char const* primitive,
               boost::shared_ptr<Media const> const& media = boost::shared_ptr<Media const>()) const
     {
-        m_hook(primitive, media);
+        m_primitive = primitive;
+        m_hook(m_primitive, media);
     }
 
     InternalProject& m_project;
     PrimitiveHook m_hook;
+    mutable std::string m_primitive;
     WatchingEdgeModHandler m_edges;
 };
 
