@@ -204,6 +204,7 @@
 #include "project/AddMediaGuard.h"
 #include "project/ConstIterator.h"
 #include "project/InternalProject.h"
+#include "project/LockPolicy.h"
 #include "project/Project.h"
 #include "project/ProjectEditRate.h"
 #include "project/ProjectFwd.h"

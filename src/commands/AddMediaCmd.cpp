@@ -1,6 +1,7 @@
 #include "commands/AddMediaCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -28,6 +29,7 @@ AddMediaCmd* AddMediaCmd::clone() const
 
 bool AddMediaCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_media);
     m_oldStart = m_media->timeRange().start;
     handler->addMedia(m_track, m_media, m_time);
     return true;

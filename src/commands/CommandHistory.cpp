@@ -50,7 +50,29 @@ void writeStack(XMLable::Options& options, int indent, char const* name,
 
 }  // namespace
 
-CommandHistory::CommandHistory(CommandHandler* handler) : m_handler(handler), m_undoLimit(-1) {}
+/// While a command runs, host code may be called: a handler, a sentry, a loader. A second edit from
+/// there would stand in the history before the one it interrupts, and be undone after it.
+class CommandHistory::Run
+{
+public:
+    explicit Run(CommandHistory& history) : m_history(history)
+    {
+        if (m_history.m_isRunning) {
+            throw TarnMediaLibException("a command is running");
+        }
+        m_history.m_isRunning = true;
+    }
+    ~Run() { m_history.m_isRunning = false; }
+    Run(Run const&) = delete;
+    Run& operator=(Run const&) = delete;
+
+private:
+    CommandHistory& m_history;
+};
+
+CommandHistory::CommandHistory(CommandHandler* handler)
+    : m_handler(handler), m_undoLimit(-1), m_isRunning(false)
+{}
 
 CommandHistory::CommandHistory(CommandHistory const& other)
     : XMLIdentified(other)
@@ -62,6 +84,7 @@ CommandHistory::CommandHistory(CommandHistory const& other)
     , m_undoCommands(cloned(other.m_undoCommands))
     , m_redoCommands(cloned(other.m_redoCommands))
     , m_undoLimit(other.m_undoLimit)
+    , m_isRunning(false)
 {}
 
 CommandHistory::~CommandHistory() = default;
@@ -85,8 +108,11 @@ bool CommandHistory::execute(boost::shared_ptr<Command> const& command)
     }
     // Made before the command runs, so that nothing can fail between its work and its record.
     CommandList executed(1, command);
-    if (!command->execute(m_handler)) {
-        return false;
+    {
+        Run const run(*this);
+        if (!command->execute(m_handler)) {
+            return false;
+        }
     }
     m_undoCommands.splice(m_undoCommands.end(), executed);
     m_redoCommands.clear();
@@ -97,22 +123,30 @@ bool CommandHistory::execute(boost::shared_ptr<Command> const& command)
 
 void CommandHistory::undo()
 {
-    if (m_undoCommands.empty()) {
-        throw TarnMediaLibException("no commands to undo");
+    CommandList newest;
+    {
+        Run const run(*this);
+        if (m_undoCommands.empty()) {
+            throw TarnMediaLibException("no commands to undo");
+        }
+        newest = takeNewest(m_undoCommands);
+        newest.back()->unexecute(m_handler);
     }
-    CommandList newest = takeNewest(m_undoCommands);
-    newest.back()->unexecute(m_handler);
     m_redoCommands.splice(m_redoCommands.end(), newest);
     notify();
 }
 
 void CommandHistory::redo()
 {
-    if (m_redoCommands.empty()) {
-        throw TarnMediaLibException("no commands to redo");
+    CommandList newest;
+    {
+        Run const run(*this);
+        if (m_redoCommands.empty()) {
+            throw TarnMediaLibException("no commands to redo");
+        }
+        newest = takeNewest(m_redoCommands);
+        newest.back()->reexecute(m_handler);
     }
-    CommandList newest = takeNewest(m_redoCommands);
-    newest.back()->reexecute(m_handler);
     m_undoCommands.splice(m_undoCommands.end(), newest);
     notify();
 }
@@ -133,11 +167,13 @@ void CommandHistory::redoAll()
 
 void CommandHistory::dropRedoCommands()
 {
+    Run const run(*this);
     m_redoCommands.clear();
 }
 
 void CommandHistory::combineLastCommands()
 {
+    Run const run(*this);
     if (m_undoCommands.size() < 2) {
         return;
     }
@@ -163,14 +199,18 @@ boost::shared_ptr<Command const> CommandHistory::getCurrentUndoStackTop() const
 
 void CommandHistory::restoreState(CommandHistoryState const& state)
 {
-    // Kept so: entries of the redo list are unexecuted too, not run again, when the top is there.
-    if (!unrollStack(m_undoCommands, state.undoTop(), m_handler) &&
-        !unrollStack(m_redoCommands, state.undoTop(), m_handler)) {
-        std::cerr << description() << std::endl;
-        throw ValueException<CommandHistoryState>("State cannot be restored, cannot find undo top",
-                                                  state);
+    {
+        Run const run(*this);
+        // Kept so: entries of the redo list are unexecuted too, not run again, when the top is
+        // there.
+        if (!unrollStack(m_undoCommands, state.undoTop(), m_handler) &&
+            !unrollStack(m_redoCommands, state.undoTop(), m_handler)) {
+            std::cerr << description() << std::endl;
+            throw ValueException<CommandHistoryState>(
+                "State cannot be restored, cannot find undo top", state);
+        }
+        m_redoCommands = state.redoCommands();
     }
-    m_redoCommands = state.redoCommands();
     notify();
 }
 
@@ -206,8 +246,11 @@ void CommandHistory::unrollPortion(CommandList& commands,
 
 void CommandHistory::setUndoLimit(int limit)
 {
-    m_undoLimit = limit;
-    removeExcessCommands();
+    {
+        Run const run(*this);
+        m_undoLimit = limit;
+        removeExcessCommands();
+    }
     notify();
 }
 

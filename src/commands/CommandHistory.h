@@ -20,6 +20,10 @@ namespace tarn {
 ///
 /// Has no lock: a project runs it under its write lock. A command that throws while it is undone or
 /// redone is on neither list afterwards.
+///
+/// While a command runs, whoever it calls (a host's handler, a sentry, a loader) may only read
+/// here: every operation that changes a list throws TarnMediaLibException "a command is running"
+/// and changes nothing. Observers are called when the command is over, and may edit.
 class TARN_API CommandHistory : public TarnObject, public Cloneable, public Subject, public XMLable
 {
 public:
@@ -65,7 +69,8 @@ public:
 
     /// How many commands can be undone at most; negative, as at first, for no limit.
     int undoLimit() const { return m_undoLimit; }
-    /// Drops the oldest at once that are too many, without undoing them.
+    /// Drops the oldest at once that are too many, without undoing them. A host with other threads
+    /// holds the project's write lock meanwhile: what is dropped may be the last owner of objects.
     void setUndoLimit(int limit);
 
     std::size_t numUndoCommands() const { return m_undoCommands.size(); }
@@ -79,6 +84,7 @@ public:
 
 private:
     using CommandList = std::list<boost::shared_ptr<Command>>;
+    class Run;
 
     CommandHistory(CommandHistory const& other);
     CommandHistory& operator=(CommandHistory const&) = delete;
@@ -97,6 +103,7 @@ private:
     CommandList m_undoCommands;
     CommandList m_redoCommands;
     int m_undoLimit;
+    bool m_isRunning;
 };
 
 }  // namespace tarn

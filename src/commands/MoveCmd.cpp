@@ -1,6 +1,7 @@
 #include "commands/MoveCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -28,6 +29,7 @@ MoveCmd* MoveCmd::clone() const
 
 bool MoveCmd::execute(CommandHandler* handler)
 {
+    requireObjects(media());
     handler->move(track(), media(), offset());
     return true;
 }

@@ -1,6 +1,7 @@
 #include "commands/TrimEndCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -28,6 +29,7 @@ TrimEndCmd* TrimEndCmd::clone() const
 
 bool TrimEndCmd::execute(CommandHandler* handler)
 {
+    requireObjects(media());
     handler->trimEnd(track(), media(), offset());
     return true;
 }

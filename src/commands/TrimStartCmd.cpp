@@ -1,6 +1,7 @@
 #include "commands/TrimStartCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -28,6 +29,7 @@ TrimStartCmd* TrimStartCmd::clone() const
 
 bool TrimStartCmd::execute(CommandHandler* handler)
 {
+    requireObjects(media());
     handler->trimStart(track(), media(), offset());
     return true;
 }

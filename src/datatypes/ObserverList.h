@@ -30,7 +30,7 @@ public:
     std::size_t size() const;
 
     /// Calls each from front to back.
-    /// @throws what an observer throws, at once
+    /// @throws the first exception of an observer, once all have been called
     void notify();
 
 private:

@@ -16,7 +16,7 @@ namespace tarn {
 /// cannot go away.
 ///
 /// Keep it in a local, and never across Project::execute, undo or redo: asking for the write lock
-/// while holding only this read lock waits for ever.
+/// while holding only this read lock waits for ever, or throws if the lock is strict.
 template <class T>
 class TARN_API MTVector
 {
