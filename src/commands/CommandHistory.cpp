@@ -199,6 +199,8 @@ boost::shared_ptr<Command const> CommandHistory::getCurrentUndoStackTop() const
 
 void CommandHistory::restoreState(CommandHistoryState const& state)
 {
+    // Made before anything is undone, so that nothing can fail behind that.
+    CommandList redoCommands = state.redoCommands();
     {
         Run const run(*this);
         // Kept so: entries of the redo list are unexecuted too, not run again, when the top is
@@ -209,7 +211,7 @@ void CommandHistory::restoreState(CommandHistoryState const& state)
             throw ValueException<CommandHistoryState>(
                 "State cannot be restored, cannot find undo top", state);
         }
-        m_redoCommands = state.redoCommands();
+        m_redoCommands.swap(redoCommands);
     }
     notify();
 }

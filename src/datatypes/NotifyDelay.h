@@ -35,10 +35,16 @@ public:
     static void removeObserver(Observer* observer);
 
 private:
+    friend class Subject;
     struct Queue;
 
     static Queue& queue();
     static void deliver();
+    static void removeObserverSlowly(Observer* observer);
+    /// For each subject that comes to be observed, and that is no more: room in the queue which is
+    /// there when memory is not.
+    static void addReserve();
+    static void dropReserve();
 };
 
 }  // namespace tarn

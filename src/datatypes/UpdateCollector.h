@@ -39,7 +39,8 @@ public:
     /// @throws the first exception of an observer, once all have notified
     void stopCollecting();
     bool isCollecting() const;
-    /// Notes the object, once; it is kept alive until it has notified.
+    /// Notes the object, once; it is kept alive until it has notified. When there is no memory to
+    /// note it, it notifies at once.
     void addObservable(boost::shared_ptr<Observable const> const& observable);
 
     std::string description() const override;
@@ -49,6 +50,8 @@ private:
 
     UpdateCollector();
     ~UpdateCollector();
+
+    void tellAtOnce(Observable const& observable);
 
     std::unique_ptr<State> m_state;
 };

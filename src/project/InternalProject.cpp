@@ -7,6 +7,7 @@
 #include "commands/CommandObserver.h"
 #include "commands/DefaultEdgeModCommandHandler.h"
 #include "datatypes/NotifyDelay.h"
+#include "datatypes/UpdateCollector.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "project/ReadLockIfAny.h"
 #include "project/ReadWriteMutex.h"
@@ -37,7 +38,11 @@ InternalProject::InternalProject(boost::rational<unsigned long> const& rate, Loc
     , m_commandObserver(nullptr)
     , m_edgeModCommandHandler(new DefaultEdgeModCommandHandler)
     , m_combineNextCommand(false)
-{}
+{
+    // Made now, as later they are first asked for when the model has changed, and must not fail.
+    NotifyDelay::isActive();
+    UpdateCollector::instance();
+}
 
 // Author, comment and system are not carried over: they belong to the document, not to its copy.
 InternalProject::InternalProject(InternalProject const& other)

@@ -39,6 +39,8 @@ public:
     /// @return false when the command found nothing to do, and so was not recorded
     /// @throws what the command throws; it is then not recorded
     /// @throws what an observer of the model throws, once all are told; the command stays recorded
+    /// @throws what combining throws; the command stays recorded as a step of its own, and the next
+    ///         one is to be combined with it
     virtual bool execute(boost::shared_ptr<Command> const& command) = 0;
     /// @throws TarnMediaLibException "no commands to undo", and what the command throws, which is
     ///         then lost
