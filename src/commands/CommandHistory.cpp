@@ -8,31 +8,22 @@
 #include <iostream>
 #include <iterator>
 #include <sstream>
+#include <utility>
 
 namespace tarn {
 
 namespace {
 
-using CommandList = std::list<boost::shared_ptr<Command>>;
-
-/// The newest entry, alone in a list of its own from which it moves on without an allocation.
-CommandList takeNewest(CommandList& commands)
+CommandStack cloned(CommandStack const& commands)
 {
-    CommandList newest;
-    newest.splice(newest.end(), commands, std::prev(commands.end()));
-    return newest;
-}
-
-CommandList cloned(CommandList const& commands)
-{
-    CommandList clones;
+    CommandStack clones;
     for (boost::shared_ptr<Command> const& command : commands) {
-        clones.push_back(boost::shared_ptr<Command>(command->clone()));
+        clones.push(boost::shared_ptr<Command>(command->clone()));
     }
     return clones;
 }
 
-void writeCommands(XMLable::Options& options, int indent, CommandList const& commands)
+void writeCommands(XMLable::Options& options, int indent, CommandStack const& commands)
 {
     for (boost::shared_ptr<Command> const& command : commands) {
         command->toXML(options, indent, "");
@@ -40,7 +31,7 @@ void writeCommands(XMLable::Options& options, int indent, CommandList const& com
 }
 
 void writeStack(XMLable::Options& options, int indent, char const* name,
-                CommandList const& commands)
+                CommandStack const& commands)
 {
     std::ostream& out = *options.stream;
     out << XMLable::genIndent(indent) << "<" << name << ">\n";
@@ -106,15 +97,17 @@ bool CommandHistory::execute(boost::shared_ptr<Command> const& command)
     if (!command) {
         throw TarnMediaLibException("no command to execute");
     }
-    // Made before the command runs, so that nothing can fail between its work and its record.
-    CommandList executed(1, command);
+    // Taken before the command runs, so that nothing can fail between its work and its record.
+    CommandStack::Room const room(m_undoCommands);
+    // A share of its own: the caller may lose his meanwhile.
+    boost::shared_ptr<Command> executed = command;
     {
         Run const run(*this);
-        if (!command->execute(m_handler)) {
+        if (!executed->execute(m_handler)) {
             return false;
         }
     }
-    m_undoCommands.splice(m_undoCommands.end(), executed);
+    m_undoCommands.push(std::move(executed));
     m_redoCommands.clear();
     removeExcessCommands();
     notify();
@@ -123,31 +116,31 @@ bool CommandHistory::execute(boost::shared_ptr<Command> const& command)
 
 void CommandHistory::undo()
 {
-    CommandList newest;
     {
         Run const run(*this);
         if (m_undoCommands.empty()) {
             throw TarnMediaLibException("no commands to undo");
         }
-        newest = takeNewest(m_undoCommands);
-        newest.back()->unexecute(m_handler);
+        CommandStack::Room const room(m_redoCommands);
+        boost::shared_ptr<Command> newest = m_undoCommands.takeBack();
+        newest->unexecute(m_handler);
+        m_redoCommands.push(std::move(newest));
     }
-    m_redoCommands.splice(m_redoCommands.end(), newest);
     notify();
 }
 
 void CommandHistory::redo()
 {
-    CommandList newest;
     {
         Run const run(*this);
         if (m_redoCommands.empty()) {
             throw TarnMediaLibException("no commands to redo");
         }
-        newest = takeNewest(m_redoCommands);
-        newest.back()->reexecute(m_handler);
+        CommandStack::Room const room(m_undoCommands);
+        boost::shared_ptr<Command> newest = m_redoCommands.takeBack();
+        newest->reexecute(m_handler);
+        m_undoCommands.push(std::move(newest));
     }
-    m_undoCommands.splice(m_undoCommands.end(), newest);
     notify();
 }
 
@@ -177,19 +170,19 @@ void CommandHistory::combineLastCommands()
     if (m_undoCommands.size() < 2) {
         return;
     }
-    CommandList::iterator const second = std::prev(m_undoCommands.end());
-    CommandList::iterator const first = std::prev(second);
-    boost::shared_ptr<Command> const combined = (*first)->combine(*second);
+    CommandStack::Commands::const_iterator const second = std::prev(m_undoCommands.end());
+    boost::shared_ptr<Command> const combined = (*std::prev(second))->combine(*second);
     if (!combined) {
         throw TarnMediaLibException("no command from combining");
     }
-    *first = combined;
-    m_undoCommands.erase(second);
+    m_undoCommands.replaceNewestTwo(combined);
 }
 
 CommandHistoryState CommandHistory::state() const
 {
-    return CommandHistoryState(getCurrentUndoStackTop(), m_redoCommands);
+    return CommandHistoryState(
+        getCurrentUndoStackTop(),
+        CommandHistoryState::CommandList(m_redoCommands.begin(), m_redoCommands.end()));
 }
 
 boost::shared_ptr<Command const> CommandHistory::getCurrentUndoStackTop() const
@@ -200,7 +193,8 @@ boost::shared_ptr<Command const> CommandHistory::getCurrentUndoStackTop() const
 void CommandHistory::restoreState(CommandHistoryState const& state)
 {
     // Made before anything is undone, so that nothing can fail behind that.
-    CommandList redoCommands = state.redoCommands();
+    CommandStack redoCommands;
+    redoCommands.assign(state.redoCommands().begin(), state.redoCommands().end());
     {
         Run const run(*this);
         // Kept so: entries of the redo list are unexecuted too, not run again, when the top is
@@ -216,7 +210,8 @@ void CommandHistory::restoreState(CommandHistoryState const& state)
     notify();
 }
 
-bool CommandHistory::unrollStack(CommandList& commands, boost::shared_ptr<Command const> const& top,
+bool CommandHistory::unrollStack(CommandStack& commands,
+                                 boost::shared_ptr<Command const> const& top,
                                  CommandHandler* handler)
 {
     if (!top) {
@@ -230,19 +225,19 @@ bool CommandHistory::unrollStack(CommandList& commands, boost::shared_ptr<Comman
     return true;
 }
 
-void CommandHistory::unrollEverything(CommandList& commands, CommandHandler* handler)
+void CommandHistory::unrollEverything(CommandStack& commands, CommandHandler* handler)
 {
     while (!commands.empty()) {
-        takeNewest(commands).back()->unexecute(handler);
+        commands.takeBack()->unexecute(handler);
     }
 }
 
-void CommandHistory::unrollPortion(CommandList& commands,
+void CommandHistory::unrollPortion(CommandStack& commands,
                                    boost::shared_ptr<Command const> const& top,
                                    CommandHandler* handler)
 {
     while (commands.back() != top) {
-        takeNewest(commands).back()->unexecute(handler);
+        commands.takeBack()->unexecute(handler);
     }
 }
 
@@ -262,7 +257,7 @@ void CommandHistory::removeExcessCommands()
         return;
     }
     while (m_undoCommands.size() > static_cast<std::size_t>(m_undoLimit)) {
-        m_undoCommands.pop_front();
+        m_undoCommands.dropFront();
     }
 }
 

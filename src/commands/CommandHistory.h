@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/CommandHistoryState.h"
+#include "commands/CommandStack.h"
 #include "commands/CommandsFwd.h"
 #include "datatypes/Cloneable.h"
 #include "datatypes/Export.h"
@@ -11,7 +12,6 @@
 #include <boost/shared_ptr.hpp>
 
 #include <cstddef>
-#include <list>
 #include <string>
 
 namespace tarn {
@@ -86,7 +86,6 @@ public:
     void xmlOfUndoCommands(XMLable::Options& options, int indent) const;
 
 private:
-    using CommandList = std::list<boost::shared_ptr<Command>>;
     class Run;
 
     CommandHistory(CommandHistory const& other);
@@ -95,16 +94,15 @@ private:
     boost::shared_ptr<Command const> getCurrentUndoStackTop() const;
     void removeExcessCommands();
     /// @return false when the list does not hold `top`; nothing has changed then
-    static bool unrollStack(CommandList& commands, boost::shared_ptr<Command const> const& top,
+    static bool unrollStack(CommandStack& commands, boost::shared_ptr<Command const> const& top,
                             CommandHandler* handler);
-    static void unrollEverything(CommandList& commands, CommandHandler* handler);
-    static void unrollPortion(CommandList& commands, boost::shared_ptr<Command const> const& top,
+    static void unrollEverything(CommandStack& commands, CommandHandler* handler);
+    static void unrollPortion(CommandStack& commands, boost::shared_ptr<Command const> const& top,
                               CommandHandler* handler);
 
     CommandHandler* m_handler;
-    // The newest last.
-    CommandList m_undoCommands;
-    CommandList m_redoCommands;
+    CommandStack m_undoCommands;
+    CommandStack m_redoCommands;
     int m_undoLimit;
     bool m_isRunning;
 };

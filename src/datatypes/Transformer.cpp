@@ -1,11 +1,10 @@
 #include "datatypes/Transformer.h"
 
 #include "datatypes/GraphicsUtil.h"
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
 #include "parameters/VectorParam.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -95,13 +94,13 @@ TransformMatrix Transformer::calcTransformAtTimeWithTranslation(Parametric const
 
 void Transformer::genXMLForTransformer(XMLable::Options& options, int indent) const
 {
-    *options.stream << XMLable::genIndent(indent) << "<Transformer>\n";
+    XmlText(options).indent(indent) << "<Transformer>\n";
     m_translation->toXML(options, indent + 1, "name=\"translation\"");
     m_rotation->toXML(options, indent + 1, "name=\"rotation\"");
     m_shear->toXML(options, indent + 1, "name=\"shear\"");
     m_scale->toXML(options, indent + 1, "name=\"scale\"");
     m_anchor->toXML(options, indent + 1, "name=\"anchor\"");
-    *options.stream << XMLable::genIndent(indent) << "</Transformer>\n";
+    XmlText(options).indent(indent) << "</Transformer>\n";
 }
 
 void Transformer::addTransformerParametersToParameters(

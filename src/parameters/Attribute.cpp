@@ -1,9 +1,8 @@
 #include "parameters/Attribute.h"
 
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "project/ReadWriteMutex.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -67,13 +66,13 @@ Attribute<T>* Attribute<T>::clone() const
 template <class T>
 void Attribute<T>::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Attribute";
+    XmlText(options) << "Attribute";
 }
 
 template <class T>
 void Attribute<T>::xmlAttributes(XMLable::Options& options) const
 {
-    *options.stream << "value=\"" << printable(m_value) << '"';
+    XmlText(options) << "value=\"" << printable(m_value) << '"';
 }
 
 template <class T>

@@ -1,6 +1,7 @@
 #include "parameters/InterpolatingParam.h"
 
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "parameters/ConstParameterDispatcher.h"
 #include "parameters/LeftParameter.h"
 #include "parameters/LinearInterpolater.h"
@@ -8,7 +9,6 @@
 #include "parameters/ParameterDispatcher.h"
 #include "project/ReadWriteMutex.h"
 
-#include <ostream>
 #include <sstream>
 #include <utility>
 
@@ -148,10 +148,10 @@ std::string InterpolatingParam<T>::ident() const
 template <class T>
 void InterpolatingParam<T>::xmlBody(XMLable::Options& options, int indent) const
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<Parameters>\n";
+    XmlText out(options);
+    out.indent(indent) << "<Parameters>\n";
     xmlOfInterpolaters(options, indent + 1);
-    out << XMLable::genIndent(indent) << "</Parameters>\n";
+    out.indent(indent) << "</Parameters>\n";
     this->xmlOfKeyframes(options, indent);
 }
 
@@ -163,21 +163,21 @@ void InterpolatingParam<T>::xmlOfInterpolaters(XMLable::Options& options, int in
         interpolaters()->toXML(options, indent, "name=\"interpolater\"");
         return;
     }
-    std::ostream& out = *options.stream;
-    std::string const margin = XMLable::genIndent(indent);
-    out << margin << "<Parameter id=\"" << m_interpolaterIdent.ident()
-        << "\"  name=\"interpolater\">\n";
-    out << margin << " <Keyframes>\n";
-    out << margin << "  <Keyframe time=\"" << 0 << "\" value=\""
-        << xml_representation(LinearInterpolater<T>::instance()->id()) << "\"/>\n";
-    out << margin << " </Keyframes>\n";
-    out << margin << "</Parameter>\n";
+    XmlText out(options);
+    out.indent(indent) << "<Parameter id=\"" << m_interpolaterIdent.ident()
+                       << "\"  name=\"interpolater\">\n";
+    out.indent(indent + 1) << "<Keyframes>\n";
+    out.indent(indent + 2) << "<Keyframe time=\"" << 0 << "\" value=\""
+                           << xml_representation(LinearInterpolater<T>::instance()->id())
+                           << "\"/>\n";
+    out.indent(indent + 1) << "</Keyframes>\n";
+    out.indent(indent) << "</Parameter>\n";
 }
 
 template <class T>
 void InterpolatingParam<T>::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "InterpolatingParam";
+    XmlText(options) << "InterpolatingParam";
 }
 
 template <class T>

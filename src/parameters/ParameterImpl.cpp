@@ -2,6 +2,7 @@
 
 #include "datatypes/ClampedCast.h"
 #include "datatypes/SaturatedArithmetic.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/KeyFrameException.h"
 #include "parameters/Interpolater.h"
 #include "parameters/XmlValue.h"
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <ostream>
 #include <utility>
 
 namespace tarn {
@@ -269,13 +269,14 @@ void ParameterImpl<T>::xmlOfKeyframes(XMLable::Options& options, int indent) con
 {
     if (m_frames.empty())
         return;
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<Keyframes>\n";
+    XmlText out(options);
+    out.indent(indent) << "<Keyframes>\n";
     for (std::size_t i = 0; i < m_frames.size(); ++i) {
-        out << XMLable::genIndent(indent + 1) << "<Keyframe time=\"" << m_times[i] << "\" value=\""
-            << xml_representation(*m_frames[i]) << "\"/>\n";
+        out.indent(indent + 1) << "<Keyframe time=\"" << m_times[i] << "\" value=\"";
+        writeValue(out, *m_frames[i]);
+        out << "\"/>\n";
     }
-    out << XMLable::genIndent(indent) << "</Keyframes>\n";
+    out.indent(indent) << "</Keyframes>\n";
 }
 
 // The sorted vectors.

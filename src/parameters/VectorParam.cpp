@@ -1,12 +1,12 @@
 #include "parameters/VectorParam.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "project/ReadWriteMutex.h"
 
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
-#include <ostream>
 
 namespace tarn {
 
@@ -54,7 +54,7 @@ VectorParam* VectorParam::clone() const
 
 void VectorParam::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VectorParam";
+    XmlText(options) << "VectorParam";
 }
 
 void VectorParam::xmlAttributes(XMLable::Options&) const {}

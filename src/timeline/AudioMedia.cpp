@@ -1,9 +1,8 @@
 #include "timeline/AudioMedia.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -70,7 +69,7 @@ void AudioMedia::xmlOfParameters(XMLable::Options& options, int indent) const
 
 void AudioMedia::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "AudioMedia";
+    XmlText(options) << "AudioMedia";
 }
 
 }  // namespace tarn

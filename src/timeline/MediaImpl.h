@@ -141,11 +141,8 @@ private:
 
     double m_mediaStartLimit;
     double m_mediaEndLimit;
-    boost::weak_ptr<Track> m_parent;
-    Range<long long> m_trackRange;
     Range<double> m_mediaRange;
     double m_scalar;
-    LinkList m_links;
     boost::shared_ptr<VectorEffectable> m_effects;
     long long m_leftEdgeLength;
     long long m_rightEdgeLength;

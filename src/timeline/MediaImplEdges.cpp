@@ -1,5 +1,6 @@
 #include "timeline/MediaImpl.h"
 
+#include "datatypes/XmlText.h"
 #include "edgemods/AuxEdgeModInfo.h"
 #include "edgemods/EdgeModCloneUtil.h"
 #include "edgemods/EdgeModFunc.h"
@@ -138,14 +139,14 @@ void aimFunctionsAt(ModificationList& modifications,
 
 void printEdgeModXML(EdgeModification const& modification, XMLable::Options& options, int indent)
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<EdgeMod parameter=\"";
+    XmlText out(options);
+    out.indent(indent) << "<EdgeMod parameter=\"";
     if (modification.parameter())
         out << modification.parameter()->xmlIdent();
     // Kept so: the function's element follows on the same line.
     out << "\">";
     modification.func().toXML(options, indent + 1, "");
-    out << XMLable::genIndent(indent) << "</EdgeMod>\n";
+    out.indent(indent) << "</EdgeMod>\n";
 }
 
 }  // namespace
@@ -161,7 +162,7 @@ struct MediaImpl::EdgeRoom
 MediaImpl::EdgeRoom MediaImpl::edgeRoom() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    long long const duration = m_trackRange.duration;
+    long long const duration = m_place.range.duration;
     return EdgeRoom{limitedEdgeLength(duration, m_leftEdgeLength, m_rightEdgeLength),
                     limitedEdgeLength(duration, m_rightEdgeLength, m_leftEdgeLength), duration};
 }
@@ -284,17 +285,15 @@ void MediaImpl::aimEdgeFunctionsAt(boost::shared_ptr<VisualMedia const> const& m
 
 void MediaImpl::printEdgeModsXML(XMLable::Options& options, int indent) const
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<LeftEdgeMods length=\"" << leftEdgeModificationLength()
-        << "\">\n";
+    XmlText out(options);
+    out.indent(indent) << "<LeftEdgeMods length=\"" << leftEdgeModificationLength() << "\">\n";
     for (EdgeModification const& modification : leftEdgeModifications())
         printEdgeModXML(modification, options, indent + 1);
-    out << XMLable::genIndent(indent) << "</LeftEdgeMods>\n";
-    out << XMLable::genIndent(indent) << "<RightEdgeMods length=\"" << rightEdgeModificationLength()
-        << "\">\n";
+    out.indent(indent) << "</LeftEdgeMods>\n";
+    out.indent(indent) << "<RightEdgeMods length=\"" << rightEdgeModificationLength() << "\">\n";
     for (EdgeModification const& modification : rightEdgeModifications())
         printEdgeModXML(modification, options, indent + 1);
-    out << XMLable::genIndent(indent) << "</RightEdgeMods>\n";
+    out.indent(indent) << "</RightEdgeMods>\n";
 }
 
 }  // namespace tarn

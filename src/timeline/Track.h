@@ -251,6 +251,10 @@ private:
     /// @throws ValueException<boost::shared_ptr<Media>>
     static void assertParentless(boost::shared_ptr<Media> const& media);
 
+    MediaMap::iterator entryFreeToTake(boost::shared_ptr<Media const> const& media,
+                                       Range<long long> const& range, bool includeLinks);
+    void rekeyInPlace(MediaMap::iterator entry, long long newKey);
+
     void checkStartIsFree(boost::shared_ptr<Media const> const& media, long long newStart,
                           bool includeLinks) const;
 

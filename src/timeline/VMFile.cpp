@@ -1,11 +1,10 @@
 #include "timeline/VMFile.h"
 
 #include "datatypes/ScreenMetaData.h"
+#include "datatypes/XmlText.h"
 #include "parameters/Attribute.h"
 #include "timeline/ConstMediaDispatcher.h"
 #include "timeline/MediaDispatcher.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -134,14 +133,14 @@ void VMFile::xmlOfAttributes(XMLable::Options& options, int indent) const
 
 void VMFile::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VMFile";
+    XmlText(options) << "VMFile";
 }
 
 void VMFile::xmlAttributes(XMLable::Options& options) const
 {
     VideoMedia::xmlAttributes(options);
-    *options.stream << " trackNumber=\"" << trackNumber() << "\" src=\"" << m_file.sourceXmlIdent()
-                    << '"';
+    XmlText(options) << " trackNumber=\"" << trackNumber() << "\" src=\"" << m_file.sourceXmlIdent()
+                     << '"';
 }
 
 void VMFile::xmlBody(XMLable::Options& options, int indent) const

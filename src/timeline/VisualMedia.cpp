@@ -1,10 +1,9 @@
 #include "timeline/VisualMedia.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
 #include "parameters/VectorParam.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -111,7 +110,7 @@ void VisualMedia::xmlOfParameters(XMLable::Options& options, int indent) const
 
 void VisualMedia::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VisualMedia";
+    XmlText(options) << "VisualMedia";
 }
 
 void VisualMedia::xmlBody(XMLable::Options& options, int indent) const
