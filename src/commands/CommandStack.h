@@ -46,6 +46,7 @@ public:
     Commands::const_iterator end() const { return m_entries.end(); }
     boost::shared_ptr<Command> const& back() const { return m_entries.back(); }
 
+    /// Puts the newest; cannot fail while a Room for it is open.
     void push(boost::shared_ptr<Command> command) { m_entries.push_back(std::move(command)); }
     /// Takes the newest out; there must be one.
     boost::shared_ptr<Command> takeBack()

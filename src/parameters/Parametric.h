@@ -32,6 +32,7 @@ public:
     virtual double fromParameterTime(double time) const = 0;
     /// From global time to local time; edit units.
     virtual long long fromGlobalToParametricTime(long long time) const = 0;
+    /// How many parameters parameterVector() has, unless a class says otherwise.
     virtual int numParameters() const = 0;
     /// The direct parameters in a fixed order; entries may be null. Bind it to a local: it keeps
     /// the project read-locked.

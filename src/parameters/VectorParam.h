@@ -32,6 +32,7 @@ public:
     VectorParam& operator=(VectorParam const& other) = delete;
     ~VectorParam() override;
 
+    /// How many parameters it has.
     int numDimensions() const;
     /// The index is used as it stands.
     boost::shared_ptr<InterpolatingParam<double>> at(int index);

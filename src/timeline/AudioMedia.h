@@ -17,11 +17,14 @@ public:
                double mediaStartLimit, double mediaEndLimit,
                boost::weak_ptr<ThreadSafe const> const& project);
 
+    /// How many channels it plays.
     virtual unsigned int numChannels() const = 0;
     /// One new media for each channel, in rising channel order.
     virtual std::vector<boost::shared_ptr<AudioMedia>> splitChannels() const = 0;
 
+    /// Samples a second.
     unsigned int sampleRate() const { return m_sampleRate; }
+    /// Bits a sample; 0 for lossy compression.
     unsigned int bitDepth() const { return m_bitDepth; }
     /// A factor on the sound, 1 at first; key frames lie on the source's clock. The host applies
     /// it.

@@ -77,6 +77,7 @@ public:
     TrackList::iterator trackEnd();
     ConstTrackIterator trackBegin() const;
     ConstTrackIterator trackEnd() const;
+    /// Read lock.
     unsigned int numTracks() const;
     /// @throws IndexException
     boost::shared_ptr<Track> trackAtIndex(unsigned int index);

@@ -30,6 +30,7 @@ public:
 
     /// Empty when there is only a file name.
     boost::shared_ptr<Source const> source() const;
+    /// Counted from 0.
     unsigned int trackNumber() const { return m_trackNumber; }
     /// The track's own file in a bundle, otherwise the source's file.
     std::string fileName() const;

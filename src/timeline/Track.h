@@ -83,6 +83,7 @@ public:
 
     std::string description() const override;
 
+    /// Read lock.
     unsigned int numMedias() const;
     /// The medias in time order. The const forms hold the read lock for their life; the others hold
     /// none.

@@ -21,7 +21,9 @@ public:
 
     /// From the media's own coordinates, in pixels, to its track's, edges included. Read lock.
     virtual TransformMatrix transformAtTime(long long time) const;
+    /// In pixels, without crops and transform.
     virtual double width() const = 0;
+    /// In pixels, without crops and transform.
     virtual double height() const = 0;
 
     /// What is not read of the picture, in its own pixels.
