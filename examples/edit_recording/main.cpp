@@ -8,9 +8,9 @@
 
 #include "BinTable.h"
 #include "FramePicture.h"
-#include "TimelinePicture.h"
 
 #include <TarnMediaLib/TarnMediaLib.h>
+#include <drawing/TimelinePicture.h>
 
 #include <fstream>
 #include <iostream>
@@ -310,6 +310,7 @@ void click(Host& host)
     drawFrame(mixer, time, location, "out/frame.svg");
 }
 
+//! [text]
 /// The project as text. Identity numbers are the run's own affair, so they are taken out.
 std::string textOf(tarn::Project const& project)
 {
@@ -318,6 +319,7 @@ std::string textOf(tarn::Project const& project)
     static std::regex const idents("(id|link|src|parameter)=\"[0-9]+\"");
     return std::regex_replace(xml.str(), idents, "$1=\"\"");
 }
+//! [text]
 
 /// @returns whether undoing and redoing gives the same text at every step
 bool undoAndRedo(Host& host, std::string const& empty)
@@ -344,7 +346,7 @@ void writeFiles(Host const& host)
 {
     std::ofstream xml("out/project.xml");
     host.project->toXML(xml);
-    drawTimeline(*host.project->timeline(), "out/timeline.svg");
+    tarn::drawing::drawTimeline(*host.project->timeline(), "out/timeline.svg");
     say("Wrote out/project.xml, out/timeline.svg and out/frame.svg");
 }
 

@@ -8,7 +8,8 @@
 
 namespace tarn {
 
-/// An open movie. It owns its tracks, and whatever it holds open is closed by its destructor.
+/// An open movie. It owns its tracks, and whatever it holds open is closed by its destructor. Used
+/// on the thread that loads, under the write lock when a command does.
 class TARN_API Movie
 {
 public:

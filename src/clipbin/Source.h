@@ -18,6 +18,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tarn {
 
@@ -63,6 +64,7 @@ public:
     Range<long long> timeRange() const;
     /// Owned by the source.
     MediaFileStats const* mediaFileStats() const;
+    /// With the prototype medias, one a track; owned by the source.
     boost::shared_ptr<Timeline> timeline();
     boost::shared_ptr<Timeline const> timeline() const;
     /// @throws IndexException
@@ -77,7 +79,8 @@ public:
     Iterator<T> mediaEnd() const;
 
     /// Replaces the file, and with it the names of component and side files that contain the old
-    /// name. Everything else that was read from the old file stays.
+    /// name. Everything else that was read from the old file stays. What throws has changed
+    /// nothing.
     /// @throws IOException when the new file cannot be read
     /// @throws TarnMediaLibException "attempting to replace source's file with an incompatable
     ///         file" unless the number of tracks is the same, and kind and length of the first
@@ -108,7 +111,8 @@ private:
     void addMediaToTimeline(boost::shared_ptr<VisualMedia> const& media);
     void addMediaToTimeline(boost::shared_ptr<AMFile> const& media);
     void updateScreenMetaData(std::string const& oldFile, std::string const& newFile);
-    void updateTrackFilenames(std::string const& oldFile, std::string const& newFile);
+    std::vector<std::string> changedTrackFilenames(std::string const& oldFile,
+                                                   std::string const& newFile) const;
 
     boost::shared_ptr<Timeline> m_timeline;
     boost::shared_ptr<MediaFileStats> m_stats;

@@ -22,8 +22,10 @@ bool isSentryAcceptable(std::list<boost::shared_ptr<SourceBinSentry>> const& sen
 {
     for (boost::shared_ptr<SourceBinSentry> const& sentry : sentries) {
         if (!sentry->isAcceptable(stats)) {
-            std::cout << "SourceBinSentry(" << sentry->description()
-                      << ") rejected file:" << stats->filename() << std::endl;
+            // First, as it may throw: half a line would be left.
+            std::string const name = sentry->description();
+            std::cout << "SourceBinSentry(" << name << ") rejected file:" << stats->filename()
+                      << std::endl;
             return false;
         }
     }

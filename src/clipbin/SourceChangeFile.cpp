@@ -13,8 +13,11 @@
 #include <boost/algorithm/string/replace.hpp>
 #include <boost/scoped_ptr.hpp>
 
+#include <algorithm>
+#include <array>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace tarn {
 
@@ -50,24 +53,44 @@ std::string replacePath(std::string const& search, std::string const& replacemen
     return boost::algorithm::replace_first_copy(target, search, replacement);
 }
 
-void replacePaths(std::string const& oldFile, std::string const& newFile, ScreenMetaData& metaData)
+/// The files beside one recording: what they were called, and what they are to be called.
+struct SideFiles
 {
-    metaData.setTopmostWindowCoordinates(
-        replacePath(oldFile, newFile, metaData.topmostWindowCoordinatesFilename()));
-    metaData.setCursorLocation(replacePath(oldFile, newFile, metaData.cursorLocationFilename()));
-    metaData.setCursorAction(replacePath(oldFile, newFile, metaData.cursorActionFilename()));
-    metaData.setDirtyRects(replacePath(oldFile, newFile, metaData.dirtyRectsFilename()));
-}
+    using Names = std::array<std::string, 4>;
 
-/// Renames what was recorded beside a video; other medias have nothing beside them.
-class ScreenMetaDataUpdater : public DefaultMediaDispatcher
+    SideFiles(boost::shared_ptr<ScreenMetaData> const& owner, std::string const& oldFile,
+              std::string const& newFile)
+        : metaData(owner)
+        , oldNames{owner->topmostWindowCoordinatesFilename(), owner->cursorLocationFilename(),
+                   owner->cursorActionFilename(), owner->dirtyRectsFilename()}
+    {
+        std::transform(
+            oldNames.begin(), oldNames.end(), newNames.begin(),
+            [&](std::string const& name) { return replacePath(oldFile, newFile, name); });
+    }
+
+    void rename(Names const& names) const
+    {
+        metaData->setTopmostWindowCoordinates(names[0]);
+        metaData->setCursorLocation(names[1]);
+        metaData->setCursorAction(names[2]);
+        metaData->setDirtyRects(names[3]);
+    }
+
+    boost::shared_ptr<ScreenMetaData> metaData;
+    Names oldNames;
+    Names newNames;
+};
+
+/// Finds what was recorded beside a video; other medias have nothing beside them.
+class SideFilesFinder : public DefaultMediaDispatcher
 {
 public:
     using MetaDataMap = std::map<boost::shared_ptr<VMFile>, boost::shared_ptr<ScreenMetaData>>;
     using DefaultMediaDispatcher::dispatchMedia;
 
-    ScreenMetaDataUpdater(std::string const& oldFile, std::string const& newFile,
-                          MetaDataMap const& metaData)
+    SideFilesFinder(std::string const& oldFile, std::string const& newFile,
+                    MetaDataMap const& metaData)
         : m_oldFile(oldFile), m_newFile(newFile), m_metaData(metaData)
     {}
 
@@ -75,15 +98,18 @@ public:
     {
         MetaDataMap::const_iterator const entry = m_metaData.find(media);
         if (entry != m_metaData.end())
-            replacePaths(m_oldFile, m_newFile, *entry->second);
+            m_found.emplace_back(entry->second, m_oldFile, m_newFile);
     }
 
     void mediaNotHandled() override {}
+
+    std::vector<SideFiles> const& found() const { return m_found; }
 
 private:
     std::string const& m_oldFile;
     std::string const& m_newFile;
     MetaDataMap const& m_metaData;
+    std::vector<SideFiles> m_found;
 };
 
 }  // namespace
@@ -95,30 +121,47 @@ void Source::changeFile(std::string const& newFile)
             "attempting to replace source's file with an incompatable file");
     }
     std::string const oldFile = m_stats->filename();
-    updateScreenMetaData(oldFile, newFile);
-    updateTrackFilenames(oldFile, newFile);
+    std::vector<std::string> trackFilenames = changedTrackFilenames(oldFile, newFile);
     m_stats->setFilename(newFile);
+    try {
+        updateScreenMetaData(oldFile, newFile);
+    } catch (...) {
+        m_stats->setFilename(oldFile);
+        throw;
+    }
+    for (unsigned int track = 0; track < m_stats->numTracks(); ++track)
+        m_stats->trackStats(track).filename.swap(trackFilenames[track]);
     notify();
 }
 
+/// All or none. What is renamed back has held its old name before, and so has room for it.
 void Source::updateScreenMetaData(std::string const& oldFile, std::string const& newFile)
 {
     boost::shared_ptr<VisualMixer> const mixer = m_timeline->visualMixer();
     if (!mixer)
         return;
-    ScreenMetaDataUpdater updater(oldFile, newFile, m_screenMetaData);
+    SideFilesFinder finder(oldFile, newFile, m_screenMetaData);
     for (boost::shared_ptr<Track> const& track : mixer->trackList()) {
         for (Track::MediaMap::value_type const& entry : track->medias())
-            entry.second->receiveDispatcher(&updater);
+            entry.second->receiveDispatcher(&finder);
+    }
+    try {
+        for (SideFiles const& files : finder.found())
+            files.rename(files.newNames);
+    } catch (...) {
+        for (SideFiles const& files : finder.found())
+            files.rename(files.oldNames);
+        throw;
     }
 }
 
-void Source::updateTrackFilenames(std::string const& oldFile, std::string const& newFile)
+std::vector<std::string> Source::changedTrackFilenames(std::string const& oldFile,
+                                                       std::string const& newFile) const
 {
-    for (unsigned int track = 0; track < m_stats->numTracks(); ++track) {
-        MediaFileStats::TrackStats& stats = m_stats->trackStats(track);
-        stats.filename = replacePath(oldFile, newFile, stats.filename);
-    }
+    std::vector<std::string> names;
+    for (unsigned int track = 0; track < m_stats->numTracks(); ++track)
+        names.push_back(replacePath(oldFile, newFile, m_stats->trackStats(track).filename));
+    return names;
 }
 
 }  // namespace tarn

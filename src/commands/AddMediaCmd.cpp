@@ -2,6 +2,7 @@
 
 #include "commands/CommandHandler.h"
 #include "commands/OnePiece.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -29,6 +30,7 @@ AddMediaCmd* AddMediaCmd::clone() const
 
 bool AddMediaCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_media);
     m_oldStart = m_media->timeRange().start;
     handler->addMedia(m_track, m_media, m_time);
     return true;

@@ -2,6 +2,7 @@
 
 #include "commands/CommandHandler.h"
 #include "commands/EdgeModCommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "parameters/Parameter.h"
 #include "timeline/Media.h"
 
@@ -27,6 +28,7 @@ EdgeModCloneCmd* EdgeModCloneCmd::clone() const
 
 bool EdgeModCloneCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_media);
     EdgeModCommandHandler* const edgeHandler = handler->edgeModCommandHandler();
     m_rightLength = m_media->rightEdgeModificationLength();
     if (!m_clone)
@@ -82,8 +84,19 @@ void EdgeModCloneCmd::setupCloner(EdgeModCommandHandler* edgeHandler)
 void EdgeModCloneCmd::resetCloner(EdgeModCommandHandler* edgeHandler)
 {
     edgeHandler->setRightEdgeModificationLength(m_media, m_rightLength);
-    for (auto it = m_removedRightMods.rbegin(); it != m_removedRightMods.rend(); ++it)
-        edgeHandler->addRightEdgeModification(m_media, *it);
+    auto it = m_removedRightMods.rbegin();
+    try {
+        for (; it != m_removedRightMods.rend(); ++it)
+            edgeHandler->addRightEdgeModification(m_media, *it);
+    } catch (...) {
+        // All or none: what is here and at the clone as well would bend twice.
+        while (it != m_removedRightMods.rbegin()) {
+            --it;
+            edgeHandler->removeRightEdgeModification(m_media, it->parameter());
+        }
+        edgeHandler->setRightEdgeModificationLength(m_media, 0);
+        throw;
+    }
 }
 
 void EdgeModCloneCmd::xmlName(XMLable::Options& options) const

@@ -2,6 +2,7 @@
 
 #include "commands/CommandHandler.h"
 #include "commands/OnePiece.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -29,6 +30,7 @@ MoveCmd* MoveCmd::clone() const
 
 bool MoveCmd::execute(CommandHandler* handler)
 {
+    requireObjects(media());
     handler->move(track(), media(), offset());
     return true;
 }

@@ -38,8 +38,18 @@ template <class T>
 bool RemoveMediaCmd<T>::unexecute(CommandHandler* handler)
 {
     // A media that was removed keeps the start it had.
-    for (auto it = m_removed->rbegin(); it != m_removed->rend(); ++it)
-        handler->addMedia(it->second, it->first, it->first->trackRange().start);
+    auto it = m_removed->rbegin();
+    try {
+        for (; it != m_removed->rend(); ++it)
+            handler->addMedia(it->second, it->first, it->first->trackRange().start);
+    } catch (...) {
+        // All or none: a group of which some lie on a track could neither be edited nor removed.
+        while (it != m_removed->rbegin()) {
+            --it;
+            handler->removeMedia(it->second, it->first, it->first->trackRange().start);
+        }
+        throw;
+    }
     return true;
 }
 

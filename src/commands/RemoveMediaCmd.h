@@ -26,6 +26,7 @@ public:
 
     RemoveMediaCmd<T>* clone() const override;
     bool execute(CommandHandler* handler) override;
+    /// All come back or none.
     bool unexecute(CommandHandler* handler) override;
 
     void xmlName(XMLable::Options& options) const override;

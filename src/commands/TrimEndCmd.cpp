@@ -2,6 +2,7 @@
 
 #include "commands/CommandHandler.h"
 #include "commands/OnePiece.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -29,6 +30,7 @@ TrimEndCmd* TrimEndCmd::clone() const
 
 bool TrimEndCmd::execute(CommandHandler* handler)
 {
+    requireObjects(media());
     handler->trimEnd(track(), media(), offset());
     return true;
 }

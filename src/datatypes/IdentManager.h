@@ -21,6 +21,7 @@ public:
     IdentManager(IdentManager const&) = delete;
     IdentManager& operator=(IdentManager const&) = delete;
 
+    /// The number retired last, or else one that was never given out.
     unsigned int newIdent();
     /// Gives back an ident that newIdent() gave out.
     void retireIdent(unsigned int ident);

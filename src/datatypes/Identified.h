@@ -22,6 +22,7 @@ public:
                         ReservedIdent attributeIdent = ReservedIdent::draw());
     virtual ~Identified();
 
+    /// The text as an attribute, made when first asked for.
     virtual boost::shared_ptr<Attribute<std::string>> identAttribute();
     virtual boost::shared_ptr<Attribute<std::string> const> identAttribute() const;
 

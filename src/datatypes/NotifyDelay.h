@@ -24,7 +24,9 @@ public:
 
     std::string description() const override;
 
+    /// Whether one is open anywhere in the process.
     static bool isActive();
+    /// Queues a notification.
     static void addObservable(Observable const* observable);
     static void addObservable(Subject const* subject);
     /// Drops every entry of what dies, the one being told included.
@@ -34,10 +36,16 @@ public:
     static void removeObserver(Observer* observer);
 
 private:
+    friend class Subject;
     struct Queue;
 
     static Queue& queue();
     static void deliver();
+    static void removeObserverSlowly(Observer* observer);
+    /// For each subject that comes to be observed, and that is no more: room in the queue which is
+    /// there when memory is not.
+    static void addReserve();
+    static void dropReserve();
 };
 
 }  // namespace tarn

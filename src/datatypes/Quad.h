@@ -24,7 +24,9 @@ public:
 
     std::string description() const override;
 
+    /// The corner of that index, from 0 to 3.
     Point const& at(int index) const { return m_corners[index]; }
+    /// Replaces the corner of that index, from 0 to 3.
     void setAt(int index, Point const& corner) { m_corners[index] = corner; }
 
     double minX() const;

@@ -12,6 +12,7 @@ class TARN_API ReservedIdent
 public:
     /// Holds none.
     ReservedIdent() = default;
+    /// Takes the next number of the process.
     static ReservedIdent draw();
     /// Leaves the other one without.
     ReservedIdent(ReservedIdent&& other) noexcept;

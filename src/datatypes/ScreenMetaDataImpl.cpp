@@ -2,6 +2,7 @@
 
 #include "clipbin/PathUtil.h"
 #include "datatypes/FileRepresentation.h"
+#include "datatypes/MadeOnFirstUse.h"
 #include "datatypes/ScreenMetaDataLoader.h"
 #include "datatypes/XmlRepresentation.h"
 #include "datatypes/XmlText.h"
@@ -141,11 +142,19 @@ boost::shared_ptr<ParameterInterface> ScreenMetaDataImpl::load(
 {
     // Kept so: a host without a loader hears of it each time, whether or not it would be needed.
     assertLazyLoader(lazyLoader());
-    if (!parameter) {
-        parameter = lazyLoader()->loadParameter(convertToAbsolute(m_parent, fileName), paramName,
-                                                m_lockOwner, m_editRate);
+    {
+        std::lock_guard<std::mutex> const guard(firstUseMutex());
+        if (parameter) {
+            return parameter;
+        }
     }
-    return parameter;
+    boost::shared_ptr<ParameterInterface> const loaded = lazyLoader()->loadParameter(
+        convertToAbsolute(m_parent, fileName), paramName, m_lockOwner, m_editRate);
+    // Another thread may have loaded meanwhile; what it stored ends after the mutex is free.
+    boost::shared_ptr<ParameterInterface> stored = loaded;
+    std::lock_guard<std::mutex> const guard(firstUseMutex());
+    parameter.swap(stored);
+    return loaded;
 }
 
 bool ScreenMetaDataImpl::isValid() const

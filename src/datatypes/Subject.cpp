@@ -2,6 +2,8 @@
 
 #include "datatypes/NotifyDelay.h"
 
+#include <utility>
+
 namespace tarn {
 
 Subject::NotifyDisabler::NotifyDisabler(Subject* subject) : m_subject(subject)
@@ -32,12 +34,17 @@ Subject::~Subject()
     if (m_queueCount != 0) {
         NotifyDelay::removeObservable(this);
     }
+    if (m_observers) {
+        NotifyDelay::dropReserve();
+    }
 }
 
 void Subject::attach(Observer* observer) const
 {
     if (!m_observers) {
-        m_observers = std::make_unique<ObserverList>();
+        std::unique_ptr<ObserverList> observers = std::make_unique<ObserverList>();
+        NotifyDelay::addReserve();
+        m_observers = std::move(observers);
     }
     m_observers->attach(observer);
 }

@@ -25,6 +25,7 @@ public:
     Transformer& operator=(Transformer const& other) = delete;
     virtual ~Transformer();
 
+    /// Pixels along x, y and z.
     boost::shared_ptr<VectorParam> translation() { return m_translation; }
     boost::shared_ptr<VectorParam const> translation() const { return m_translation; }
     /// Radians around x, y and z.
@@ -33,6 +34,7 @@ public:
     /// Radians along x and y.
     boost::shared_ptr<VectorParam> shear() { return m_shear; }
     boost::shared_ptr<VectorParam const> shear() const { return m_shear; }
+    /// Factors along x, y and z; 1 is natural size.
     boost::shared_ptr<VectorParam> scale() { return m_scale; }
     boost::shared_ptr<VectorParam const> scale() const { return m_scale; }
     /// The point that rotation and scale leave where it is, before translation.

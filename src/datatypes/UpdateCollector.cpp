@@ -5,6 +5,7 @@
 #include <atomic>
 #include <exception>
 #include <mutex>
+#include <new>
 #include <set>
 
 namespace tarn {
@@ -80,10 +81,28 @@ bool UpdateCollector::isCollecting() const
 
 void UpdateCollector::addObservable(boost::shared_ptr<Observable const> const& observable)
 {
-    if (observable) {
+    if (!observable) {
+        return;
+    }
+    try {
         std::lock_guard<std::mutex> const guard(m_state->mutex);
         m_state->observables.insert(observable);
+    } catch (std::bad_alloc const&) {
+        tellAtOnce(*observable);
     }
+}
+
+/// Its change has happened, and so must be told.
+void UpdateCollector::tellAtOnce(Observable const& observable)
+{
+    m_state->isCollecting = false;
+    try {
+        observable.notify();
+    } catch (...) {
+        m_state->isCollecting = true;
+        throw;
+    }
+    m_state->isCollecting = true;
 }
 
 std::string UpdateCollector::description() const

@@ -33,11 +33,14 @@ public:
     UpdateCollector(UpdateCollector const&) = delete;
     UpdateCollector& operator=(UpdateCollector const&) = delete;
 
+    /// Collects from now on. Does not nest.
     void startCollecting();
     /// Lets each object that was collected notify, in no told order.
     /// @throws the first exception of an observer, once all have notified
     void stopCollecting();
     bool isCollecting() const;
+    /// Notes the object, once; it is kept alive until it has notified. When there is no memory to
+    /// note it, it notifies at once.
     void addObservable(boost::shared_ptr<Observable const> const& observable);
 
     std::string description() const override;
@@ -47,6 +50,8 @@ private:
 
     UpdateCollector();
     ~UpdateCollector();
+
+    void tellAtOnce(Observable const& observable);
 
     std::unique_ptr<State> m_state;
 };

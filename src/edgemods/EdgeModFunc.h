@@ -8,7 +8,8 @@
 
 namespace tarn {
 
-/// How a double parameter's value is bent over the first or last stretch of a media.
+/// How a double parameter's value is bent over the first or last stretch of a media. Called by
+/// whoever reads values, on any reading thread: it may read the model and changes nothing.
 class TARN_API EdgeModFunc : public XMLable
 {
 public:

@@ -21,7 +21,9 @@ class TARN_API EdgeModifiable
 public:
     virtual ~EdgeModifiable() = default;
 
+    /// Edit units from the start; notifies.
     virtual void setLeftEdgeModificationLength(long long length) = 0;
+    /// Edit units back from the end; notifies.
     virtual void setRightEdgeModificationLength(long long length) = 0;
     virtual long long leftEdgeModificationLength() const = 0;
     virtual long long rightEdgeModificationLength() const = 0;
@@ -30,6 +32,7 @@ public:
     virtual std::list<EdgeModification> rightEdgeModifications() const = 0;
     /// @throws TarnMediaLibException "trying to add an edge mod for a parameter already with a mod"
     virtual void addLeftEdgeModification(EdgeModification const& modification) = 0;
+    /// @throws TarnMediaLibException "trying to add an edge mod for a parameter already with a mod"
     virtual void addRightEdgeModification(EdgeModification const& modification) = 0;
     /// @throws TarnMediaLibException "trying to remove non existant left edge mod"
     virtual EdgeModification removeLeftEdgeModification(

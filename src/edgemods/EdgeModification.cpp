@@ -26,6 +26,11 @@ EdgeModification& EdgeModification::operator=(EdgeModification const& other)
     return *this;
 }
 
+// What a list gives up must reach its taker: a copy may fail where there is no way back.
+EdgeModification::EdgeModification(EdgeModification&& other) noexcept = default;
+
+EdgeModification& EdgeModification::operator=(EdgeModification&& other) noexcept = default;
+
 EdgeModification::~EdgeModification() = default;
 
 double EdgeModification::execute(double position, long long time) const

@@ -21,6 +21,9 @@ public:
                      EdgeModFunc const& func);
     EdgeModification(EdgeModification const& other);
     EdgeModification& operator=(EdgeModification const& other);
+    /// `other` is good for nothing but assignment and destruction afterwards.
+    EdgeModification(EdgeModification&& other) noexcept;
+    EdgeModification& operator=(EdgeModification&& other) noexcept;
     ~EdgeModification();
 
     /// May be null, which no parameter matches.

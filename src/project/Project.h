@@ -5,6 +5,7 @@
 #include "datatypes/Export.h"
 #include "datatypes/Subject.h"
 #include "datatypes/XMLable.h"
+#include "project/LockPolicy.h"
 #include "project/ProjectEditRate.h"
 #include "project/ThreadSafe.h"
 #include "timeline/TimelineFwd.h"
@@ -18,22 +19,28 @@ namespace tarn {
 
 /// The door into the library: everything a host changes goes through execute(), undo() and redo().
 ///
-/// Edits belong to one thread at a time; each takes the project's write lock, calls the command
-/// observer, and tells observers of the model when all is done, with the lock still held. Beside an
-/// editing thread one other thread may read. Never call an edit while the thread holds a read lock,
-/// as a const iterator does: it would wait for ever. The project ends with its last shared pointer.
+/// Each edit takes the project's write lock, calls the command observer, and tells observers of the
+/// model when all is done, with the lock still held. As a project is created by default, edits
+/// belong to one thread at a time, and beside an editing thread one other thread may read; with
+/// LockPolicy::Strict any number may. Never call an edit while the thread holds a read lock, as a
+/// const iterator does: it would wait for ever, or with LockPolicy::Strict throw
+/// ThreadLockingException. The project ends with its last shared pointer.
 class TARN_API Project : public XMLable, public ThreadSafe, public ProjectEditRate, public Subject
 {
 public:
-    /// `rate` is edit units a second, for the project's life.
-    static boost::shared_ptr<Project> create(boost::rational<unsigned long> const& rate);
+    /// `rate` is edit units a second, for the project's life, and so is the lock's policy.
+    static boost::shared_ptr<Project> create(boost::rational<unsigned long> const& rate,
+                                             LockPolicy policy = LockPolicy::Counted);
     /// @throws boost::bad_rational for a denominator of 0
-    static boost::shared_ptr<Project> create(unsigned int numerator, unsigned int denominator);
+    static boost::shared_ptr<Project> create(unsigned int numerator, unsigned int denominator,
+                                             LockPolicy policy = LockPolicy::Counted);
 
     /// Runs a command and records it. The observer is called before the lock is taken.
     /// @return false when the command found nothing to do, and so was not recorded
     /// @throws what the command throws; it is then not recorded
     /// @throws what an observer of the model throws, once all are told; the command stays recorded
+    /// @throws what combining throws; the command stays recorded as a step of its own, and the next
+    ///         one is to be combined with it
     virtual bool execute(boost::shared_ptr<Command> const& command) = 0;
     /// @throws TarnMediaLibException "no commands to undo", and what the command throws, which is
     ///         then lost
@@ -58,6 +65,7 @@ public:
     virtual boost::shared_ptr<Timeline> timeline() const = 0;
     virtual boost::shared_ptr<SourceBin> sourceBin() const = 0;
     virtual boost::shared_ptr<CommandHistory> commandHistory() const = 0;
+    /// What was copied; owned by the project, as are those above.
     virtual boost::shared_ptr<ClipBoard> clipBoard() = 0;
 
     /// Not undoable. Takes the write lock, and calls no command observer.

@@ -1,6 +1,7 @@
 #include "project/ReadWriteMutex.h"
 
 #include "exceptions/ThreadLockingException.h"
+#include "project/StrictLock.h"
 
 #include <boost/thread/exceptions.hpp>
 #include <boost/thread/thread.hpp>
@@ -48,6 +49,13 @@ using StateLock = std::lock_guard<StateMutex>;
 class ReadWriteMutexImpl
 {
 public:
+    explicit ReadWriteMutexImpl(LockPolicy policy)
+        : m_strict(policy == LockPolicy::Strict ? std::make_unique<StrictLock>() : nullptr)
+    {}
+
+    /// Empty when readers are counted. If there is one, it does the locking.
+    StrictLock* strict() const { return m_strict.get(); }
+
     void acquireReadLock();
     void releaseReadLock();
     void acquireWriteLock();
@@ -76,6 +84,7 @@ private:
     void waitForMain(Word bits);
     void wakeOne();
 
+    std::unique_ptr<StrictLock> const m_strict;
     std::atomic<Word> m_word{0};
     // No thread is 0.
     std::atomic<pthread_t> m_writer{0};
@@ -233,28 +242,56 @@ void ReadWriteMutexImpl::assertNoReadLockFromThisThread()
     }
 }
 
-ReadWriteMutex::ReadWriteMutex() : m_impl(std::make_unique<ReadWriteMutexImpl>()) {}
+ReadWriteMutex::ReadWriteMutex(LockPolicy policy)
+    : m_impl(std::make_unique<ReadWriteMutexImpl>(policy))
+{}
 
 ReadWriteMutex::~ReadWriteMutex() = default;
 
+LockPolicy ReadWriteMutex::policy() const
+{
+    return m_impl->strict() ? LockPolicy::Strict : LockPolicy::Counted;
+}
+
 void ReadWriteMutex::acquireReadLock()
 {
-    m_impl->acquireReadLock();
+    if (StrictLock* const strict = m_impl->strict()) {
+        strict->acquireReadLock();
+    } else {
+        m_impl->acquireReadLock();
+    }
 }
 
 void ReadWriteMutex::releaseReadLock()
 {
-    m_impl->releaseReadLock();
+    if (StrictLock* const strict = m_impl->strict()) {
+        strict->releaseReadLock();
+    } else {
+        m_impl->releaseReadLock();
+    }
 }
 
 void ReadWriteMutex::acquireWriteLock()
 {
-    m_impl->acquireWriteLock();
+    if (StrictLock* const strict = m_impl->strict()) {
+        strict->acquireWriteLock();
+    } else {
+        m_impl->acquireWriteLock();
+    }
 }
 
 void ReadWriteMutex::releaseWriteLock()
 {
-    m_impl->releaseWriteLock();
+    if (StrictLock* const strict = m_impl->strict()) {
+        strict->releaseWriteLock();
+    } else {
+        m_impl->releaseWriteLock();
+    }
+}
+
+bool ReadWriteMutex::isWriterWaiting() const
+{
+    return m_impl->strict() && m_impl->strict()->isWriterWaiting();
 }
 
 void ReadWriteMutex::addThreadToReaders()
@@ -269,6 +306,9 @@ void ReadWriteMutex::removeThreadFromReaders()
 
 void ReadWriteMutex::assertNoReadLockFromThisThread() const
 {
+    if (StrictLock const* const strict = m_impl->strict()) {
+        strict->assertNoReadLockFromThisThread();
+    }
     m_impl->assertNoReadLockFromThisThread();
 }
 

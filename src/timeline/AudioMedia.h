@@ -23,8 +23,11 @@ public:
 
     unsigned int sampleRate() const { return m_sampleRate; }
     unsigned int bitDepth() const { return m_bitDepth; }
+    /// A factor on the sound, 1 at first; key frames lie on the source's clock. The host applies
+    /// it.
     boost::shared_ptr<InterpolatingParam<double>> volume() { return m_volume; }
     boost::shared_ptr<InterpolatingParam<double> const> volume() const { return m_volume; }
+    /// A second factor, 1 at first, on the same clock. The host applies it.
     boost::shared_ptr<InterpolatingParam<double>> gain() { return m_gain; }
     boost::shared_ptr<InterpolatingParam<double> const> gain() const { return m_gain; }
 

@@ -50,6 +50,7 @@ public:
     /// Takes `other` out of this media's links only.
     /// @throws TarnMediaLibException for itself, for what is not linked, for unequal track ranges
     virtual void removeLink(boost::shared_ptr<Media> const& other) = 0;
+    /// Whether `other` is in this media's list of links. Read lock.
     virtual bool isLinkedWith(boost::shared_ptr<Media const> const& other) const = 0;
     /// In order of linking. The const forms hold a read lock for their life.
     virtual ConstIterator<LinkList> linkBegin() const = 0;
@@ -77,14 +78,23 @@ public:
 
     /// Offsets are relative, in edit units; a positive trim shortens. What throws changed nothing.
     virtual void move(long long offset) = 0;
+    /// @throws ValueException<long long> "invalid media trim start offset", with the offset, where
+    ///         the source has no more or nothing would be left
     virtual void trimStart(long long offset) = 0;
+    /// Whether trimStart() would take the offset.
     virtual bool validTrimStart(long long offset) = 0;
+    /// @throws ValueException<long long> "invalid media trim end offset", likewise
     virtual void trimEnd(long long offset) = 0;
+    /// Whether trimEnd() would take the offset.
     virtual bool validTrimEnd(long long offset) = 0;
+    /// Where the media starts, in edit units on the track's clock; notifies. For a media on a track
+    /// the track calls it, which keeps its key in step.
     virtual void setTrackStart(long long time) = 0;
     /// @return the scalar that a whole duration allowed
+    /// @throws ValueException<double> "invalid duration after media stretch (<=0)", with the scalar
     virtual double stretch(double scalar) = 0;
 
+    /// The timing arithmetic of this kind of media; owned by the media.
     virtual MediaEditor& mediaEditor() = 0;
     virtual MediaEditor const& mediaEditor() const = 0;
 
@@ -104,7 +114,9 @@ public:
 
     /// The track ranges that edits would give.
     Range<long long> trackRangeWithMove(long long offset) const;
+    /// Without asking whether the source offers that much, here and below.
     Range<long long> trackRangeWithTrimStart(long long offset) const;
+    /// The start stays.
     Range<long long> trackRangeWithTrimEnd(long long offset) const;
 
 protected:

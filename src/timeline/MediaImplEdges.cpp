@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace tarn {
 
@@ -95,9 +96,9 @@ EdgeModification takeOut(ModificationList& modifications,
     ModificationList::const_iterator const found = findFor(modifications, parameter);
     if (found == modifications.end())
         throw TarnMediaLibException(refusal);
-    EdgeModification const removed = *found;
-    modifications.erase(found);
-    return removed;
+    ModificationList removed;
+    removed.splice(removed.end(), modifications, found);
+    return std::move(removed.front());
 }
 
 /// Those of `originals` that have a parameter on `target`, in order, for a list of `target`'s.
@@ -254,7 +255,7 @@ void MediaImpl::addRightEdgeModification(EdgeModification const& modification)
 EdgeModification MediaImpl::removeLeftEdgeModification(
     boost::shared_ptr<Parameter<double> const> const& parameter)
 {
-    EdgeModification const removed =
+    EdgeModification removed =
         takeOut(m_leftEdgeMods, parameter, "trying to remove non existant left edge mod");
     notify();
     return removed;
@@ -263,7 +264,7 @@ EdgeModification MediaImpl::removeLeftEdgeModification(
 EdgeModification MediaImpl::removeRightEdgeModification(
     boost::shared_ptr<Parameter<double> const> const& parameter)
 {
-    EdgeModification const removed =
+    EdgeModification removed =
         takeOut(m_rightEdgeMods, parameter, "trying to remove non existant right edge mod");
     notify();
     return removed;

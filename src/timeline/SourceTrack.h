@@ -15,8 +15,9 @@ namespace tarn {
 /// Where a media's material comes from: one track of a source, or a bare file name.
 ///
 /// Holds its source strongly, so that a media can always be shown. Only the medias that a source
-/// owns itself hold it weakly, or neither would ever die; a copy of those is strong again.
-/// File names are read from the source each time, since its file can be replaced.
+/// owns itself hold it weakly, or neither would ever die; a copy of those is strong again. File
+/// names are read from the source each time, since its file can be replaced. No lock: its media
+/// takes one where that is needed.
 class TARN_API SourceTrack
 {
 public:
@@ -34,7 +35,9 @@ public:
     std::string fileName() const;
     std::string containerFileName() const;
 
+    /// Whether it is of that very source; false for an empty one.
     bool isInstanceOf(boost::shared_ptr<Source const> const& source) const;
+    /// For a source's own medias only, which must not keep their source alive.
     void holdSourceWeakly();
 
     /// Empty without a source.

@@ -10,6 +10,7 @@
 #include <boost/make_shared.hpp>
 
 #include <iterator>
+#include <new>
 #include <utility>
 
 // What changes a track: medias come, go, move, and are trimmed and stretched.
@@ -46,6 +47,8 @@ void editLinkedMedias(Track const& track, boost::shared_ptr<Media> const& media,
     } catch (TarnMediaLibException const&) {
         // Kept so: collisions were ruled out for the whole group, so what is refused here is a
         // limit of one linked media alone. The media that was asked for has its edit all the same.
+    } catch (std::bad_alloc const&) {
+        // Such a refusal, for whose text there was no memory. Nothing else here asks for any.
     }
 }
 

@@ -25,6 +25,7 @@ public:
     boost::shared_ptr<Source const> source() const;
     double width() const override;
     double height() const override;
+    /// What was recorded beside the picture; its value is empty for any other video.
     boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>>> screenMetaData();
     boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>> const> screenMetaData()
         const;

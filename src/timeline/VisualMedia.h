@@ -18,19 +18,24 @@ public:
     VisualMedia(Range<long long> const& sourceRange, double mediaStartLimit, double mediaEndLimit,
                 boost::weak_ptr<ThreadSafe const> const& project);
 
+    /// From the media's own coordinates, in pixels, to its track's, edges included. Read lock.
     virtual TransformMatrix transformAtTime(long long time) const;
     virtual double width() const = 0;
     virtual double height() const = 0;
 
+    /// What is not read of the picture, in its own pixels.
     boost::shared_ptr<VectorParam> sourceCropParam() { return m_sourceCrop; }
     boost::shared_ptr<VectorParam const> sourceCropParam() const { return m_sourceCrop; }
+    /// What is not shown of the picture and cannot be hit, in its own pixels.
     boost::shared_ptr<VectorParam> geometryCropParam() { return m_geometryCrop; }
     boost::shared_ptr<VectorParam const> geometryCropParam() const { return m_geometryCrop; }
+    /// From 0, unseen, to 1, which it is at first. Key frames lie on the source's clock.
     boost::shared_ptr<InterpolatingParam<double>> opacity() { return m_opacity; }
     boost::shared_ptr<InterpolatingParam<double> const> opacity() const { return m_opacity; }
 
     /// What the crop leaves of the picture.
     Rect<double> sourceCropRectAtTime(long long time) const;
+    /// The same of the geometry crop.
     Rect<double> geometryCropRectAtTime(long long time) const;
 
     /// Aims the clone's edge functions at the clone, where they knew their media.

@@ -114,5 +114,19 @@ TEST(NoAllocationTest, AWriteLockWithLocksNestedInIt)
               }));
 }
 
+TEST(NoAllocationTest, AStrictLockWithLocksNestedInIt)
+{
+    ReadWriteMutex mutex(LockPolicy::Strict);
+    EXPECT_EQ(0, allocationsOf([&] {
+                  ReadWriteMutex::ScopedReadLock const outer(mutex);
+                  ReadWriteMutex::ScopedReadLock const inner(mutex);
+              }));
+    EXPECT_EQ(0, allocationsOf([&] {
+                  ReadWriteMutex::ScopedWriteLock const outer(mutex);
+                  ReadWriteMutex::ScopedWriteLock const inner(mutex);
+                  ReadWriteMutex::ScopedReadLock const read(mutex);
+              }));
+}
+
 }  // namespace test
 }  // namespace tarn
