@@ -41,7 +41,6 @@ private:
 
     static Queue& queue();
     static void deliver();
-    static void removeObserverSlowly(Observer* observer);
     /// For each subject that comes to be observed, and that is no more: room in the queue which is
     /// there when memory is not.
     static void addReserve();
