@@ -2,6 +2,8 @@
 
 #include "support/FakeProject.h"
 
+#include "commands/CommandHistory.h"
+#include "commands/NullCmd.h"
 #include "parameters/InterpolatingParam.h"
 #include "project/ReadWriteMutex.h"
 #include "timeline/VisualTrack.h"
@@ -125,6 +127,18 @@ TEST(NoAllocationTest, AStrictLockWithLocksNestedInIt)
                   ReadWriteMutex::ScopedWriteLock const outer(mutex);
                   ReadWriteMutex::ScopedWriteLock const inner(mutex);
                   ReadWriteMutex::ScopedReadLock const read(mutex);
+              }));
+}
+
+TEST(NoAllocationTest, AHistoryThatUndoesAndRedoes)
+{
+    CommandHistory history(nullptr);
+    for (int i = 0; i < 100; ++i) {
+        history.execute(NullCmd::create());
+    }
+    EXPECT_EQ(0, allocationsOf([&] {
+                  history.undoAll();
+                  history.redoAll();
               }));
 }
 
