@@ -60,6 +60,7 @@ public:
     /// two it does nothing. Does not notify; unchanged when it throws.
     void combineLastCommands();
 
+    /// A snapshot of now.
     CommandHistoryState state() const;
     /// Undoes and drops what was executed since the snapshot.
     /// @throws ValueException<CommandHistoryState> "State cannot be restored, cannot find undo
@@ -73,7 +74,9 @@ public:
     /// holds the project's write lock meanwhile: what is dropped may be the last owner of objects.
     void setUndoLimit(int limit);
 
+    /// How many steps undo() can take.
     std::size_t numUndoCommands() const { return m_commands.numUndo(); }
+    /// How many steps redo() can take.
     std::size_t numRedoCommands() const { return m_commands.numRedo(); }
 
     void xmlName(XMLable::Options& options) const override;

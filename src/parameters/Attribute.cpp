@@ -79,6 +79,16 @@ template <class T>
 void Attribute<T>::xmlBody(XMLable::Options&, int) const
 {}
 
+template <class T>
+void Attribute<T>::xmlBeforeFirstUse(XMLable::Options& options, int indent,
+                                     std::string const& label, T const& value, unsigned int ident)
+{
+    XmlText out(options);
+    out.indent(indent) << "<Attribute id=\"" << ident << "\" value=\"" << printable(value) << "\" "
+                       << label << ">\n";
+    out.indent(indent) << "</Attribute>\n";
+}
+
 template class Attribute<float>;
 template class Attribute<double>;
 template class Attribute<unsigned int>;

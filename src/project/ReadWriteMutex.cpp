@@ -46,14 +46,18 @@ using StateLock = std::lock_guard<StateMutex>;
 /// The main mutex and both counts that others look at, in one word, so that a lock that is free is
 /// taken, and given back, by one exchange. The last reader out unlocks what the first one in has
 /// locked, perhaps on another thread, which a pthread_mutex_t does not allow.
+///
+/// A strict lock is told by a bit of that word, where it is looked at anyway, so that the default
+/// costs no more for there being another policy.
 class ReadWriteMutexImpl
 {
 public:
     explicit ReadWriteMutexImpl(LockPolicy policy)
-        : m_strict(policy == LockPolicy::Strict ? std::make_unique<StrictLock>() : nullptr)
+        : m_word(policy == LockPolicy::Strict ? k_isStrict : 0)
+        , m_strict(policy == LockPolicy::Strict ? std::make_unique<StrictLock>() : nullptr)
     {}
 
-    /// Empty when readers are counted. If there is one, it does the locking.
+    /// Empty when readers are counted.
     StrictLock* strict() const { return m_strict.get(); }
 
     void acquireReadLock();
@@ -73,6 +77,9 @@ private:
     static Word constexpr k_hasWriter = 2;
     // Whether to wake someone when the main mutex is unlocked.
     static Word constexpr k_isAwaited = 4;
+    // Whether it is the strict lock that does the locking. The word never changes then, and no
+    // thread is the writer here.
+    static Word constexpr k_isStrict = 8;
     // The upper half counts the readers, signed.
     static Word constexpr k_reader = Word(1) << 32;
 
@@ -81,15 +88,16 @@ private:
     bool isWriter() const;
     /// Locks the main mutex, and sets `bits` with it.
     void lockMain(Word bits);
-    void waitForMain(Word bits);
-    void wakeOne();
+    // Off the road that is taken when nobody waits, which then saves no registers.
+    [[gnu::noinline]] void waitForMain(Word bits);
+    [[gnu::noinline]] void wakeOne();
 
-    std::unique_ptr<StrictLock> const m_strict;
-    std::atomic<Word> m_word{0};
+    std::atomic<Word> m_word;
     // No thread is 0.
     std::atomic<pthread_t> m_writer{0};
     // The writer's own business.
     int m_writerCount = 0;
+    std::unique_ptr<StrictLock> const m_strict;
     // Guards what follows. Never held while anyone waits.
     StateMutex m_stateMutex;
     std::condition_variable_any m_unlocked;
@@ -152,6 +160,10 @@ void ReadWriteMutexImpl::acquireReadLock()
         return;
     }
     Word word = m_word.load(std::memory_order_relaxed);
+    if ((word & k_isStrict) != 0) {
+        m_strict->acquireReadLock();
+        return;
+    }
     Word counted;
     do {
         counted = word + k_reader;
@@ -171,10 +183,13 @@ void ReadWriteMutexImpl::releaseReadLock()
     Word word = m_word.load(std::memory_order_relaxed);
     Word counted;
     do {
-        // Kept so: the writer's own nested read locks were not counted in, and are told from other
-        // readers by the writer count alone. So a reader that slipped in beside a writer, and
-        // leaves before it, is never counted out.
-        if ((word & k_hasWriter) != 0) {
+        if ((word & (k_hasWriter | k_isStrict)) != 0) {
+            // Kept so: the writer's own nested read locks were not counted in, and are told from
+            // other readers by the writer count alone. So a reader that slipped in beside a writer,
+            // and leaves before it, is never counted out.
+            if (m_strict) {
+                m_strict->releaseReadLock();
+            }
             return;
         }
         counted = word - k_reader;
@@ -194,6 +209,10 @@ void ReadWriteMutexImpl::acquireWriteLock()
         ++m_writerCount;
         return;
     }
+    if (m_strict) {
+        m_strict->acquireWriteLock();
+        return;
+    }
     lockMain(k_hasWriter);
     m_writer.store(pthread_self(), std::memory_order_relaxed);
     m_writerCount = 1;
@@ -202,6 +221,9 @@ void ReadWriteMutexImpl::acquireWriteLock()
 void ReadWriteMutexImpl::releaseWriteLock()
 {
     if (!isWriter()) {
+        if (m_strict) {
+            m_strict->releaseWriteLock();
+        }
         return;
     }
     --m_writerCount;
@@ -255,38 +277,22 @@ LockPolicy ReadWriteMutex::policy() const
 
 void ReadWriteMutex::acquireReadLock()
 {
-    if (StrictLock* const strict = m_impl->strict()) {
-        strict->acquireReadLock();
-    } else {
-        m_impl->acquireReadLock();
-    }
+    m_impl->acquireReadLock();
 }
 
 void ReadWriteMutex::releaseReadLock()
 {
-    if (StrictLock* const strict = m_impl->strict()) {
-        strict->releaseReadLock();
-    } else {
-        m_impl->releaseReadLock();
-    }
+    m_impl->releaseReadLock();
 }
 
 void ReadWriteMutex::acquireWriteLock()
 {
-    if (StrictLock* const strict = m_impl->strict()) {
-        strict->acquireWriteLock();
-    } else {
-        m_impl->acquireWriteLock();
-    }
+    m_impl->acquireWriteLock();
 }
 
 void ReadWriteMutex::releaseWriteLock()
 {
-    if (StrictLock* const strict = m_impl->strict()) {
-        strict->releaseWriteLock();
-    } else {
-        m_impl->releaseWriteLock();
-    }
+    m_impl->releaseWriteLock();
 }
 
 bool ReadWriteMutex::isWriterWaiting() const

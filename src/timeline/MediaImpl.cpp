@@ -21,7 +21,6 @@ MediaImpl::MediaImpl(Range<long long> const& sourceRange, double mediaStartLimit
     , m_mediaRange(static_cast<double>(sourceRange.start),
                    static_cast<double>(sourceRange.duration))
     , m_scalar(1.0)
-    , m_effects(new VectorEffectable)
     , m_leftEdgeLength(0)
     , m_rightEdgeLength(0)
 {
@@ -36,12 +35,13 @@ MediaImpl::MediaImpl(MediaImpl const& other)
     , m_mediaEndLimit(other.m_mediaEndLimit)
     , m_mediaRange(other.m_mediaRange)
     , m_scalar(other.m_scalar)
-    , m_effects(other.m_effects->clone())
+    , m_effects(other.m_effects ? boost::shared_ptr<VectorEffectable>(other.m_effects->clone())
+                                : boost::shared_ptr<VectorEffectable>())
     , m_leftEdgeLength(other.m_leftEdgeLength)
     , m_rightEdgeLength(other.m_rightEdgeLength)
 {
     keepPlace(other.m_place.range);
-    for (int i = 0; i < m_effects->numEffects(); ++i) {
+    for (int i = 0; m_effects && i < m_effects->numEffects(); ++i) {
         if (boost::shared_ptr<Effect> const effect = m_effects->effectAtIndex(i))
             effect->setEffectTimeConverter(this);
     }
@@ -50,7 +50,7 @@ MediaImpl::MediaImpl(MediaImpl const& other)
 MediaImpl::~MediaImpl()
 {
     // Effects live on in the records of undo, and must not ask a media that is gone.
-    for (int i = 0; i < m_effects->numEffects(); ++i) {
+    for (int i = 0; m_effects && i < m_effects->numEffects(); ++i) {
         boost::shared_ptr<Effect> const effect = m_effects->effectAtIndex(i);
         if (effect && effect->effectTimeConverter() == this)
             effect->setEffectTimeConverter(nullptr);

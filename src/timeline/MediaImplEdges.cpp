@@ -81,6 +81,14 @@ ModificationList::const_iterator findFor(ModificationList const& modifications,
                         [&parameter](EdgeModification const& m) { return isFor(m, parameter); });
 }
 
+bool bends(ModificationList const& modifications, ParameterInterface const* parameter)
+{
+    return std::any_of(modifications.begin(), modifications.end(),
+                       [parameter](EdgeModification const& modification) {
+                           return modification.isFor(parameter);
+                       });
+}
+
 void throwIfAlreadyModForParam(EdgeModification const& modification,
                                ModificationList const& modifications)
 {
@@ -186,22 +194,27 @@ double MediaImpl::doubleParametricTransform(
     return value;
 }
 
+bool MediaImpl::showsAsStored(ParameterInterface const* parameter) const
+{
+    return !parameter || (!bends(m_leftEdgeMods, parameter) && !bends(m_rightEdgeMods, parameter));
+}
+
 double MediaImpl::transformWithEdgeMods(
     ModificationList const& modifications,
     boost::shared_ptr<ParameterInterface const> const& parameter, double value,
     double position) const
 {
-    // The function runs on a copy, as it may run long after the lists have changed.
-    std::unique_ptr<EdgeModification> modification;
+    // Run without the lock, so it may run long after the lists have changed.
+    boost::shared_ptr<EdgeModFunc const> func;
     {
         ReadWriteMutex::ScopedReadLock lock(mutex());
         ModificationList::const_iterator const found = findFor(modifications, parameter);
         if (found == modifications.end() || TransformInProgress::contains(this, parameter.get()))
             return value;
-        modification.reset(new EdgeModification(*found));
+        func = found->sharedFunc();
     }
     TransformInProgress const mark(this, parameter.get());
-    return modification->func().execute(position, value);
+    return func->execute(position, value);
 }
 
 void MediaImpl::setLeftEdgeModificationLength(long long length)

@@ -283,6 +283,11 @@ int Mixer::numEffects() const
 
 // The clock of the parameters.
 
+bool Mixer::showsAsStored(ParameterInterface const*) const
+{
+    return true;
+}
+
 double Mixer::toParameterTime(double time) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());

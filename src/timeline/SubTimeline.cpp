@@ -41,7 +41,7 @@ void SubTimeline::xmlOfParametersEffectsAttributes(XMLable::Options& options, in
 
 void SubTimeline::xmlOfIdentAttribute(XMLable::Options& options, int indent) const
 {
-    identAttribute()->toXML(options, indent, "name=\"ident\"");
+    xmlOfIdent(options, indent);
 }
 
 }  // namespace tarn

@@ -175,6 +175,11 @@ int Track::numEffects() const
 
 // Parameters and their clock.
 
+bool Track::showsAsStored(ParameterInterface const*) const
+{
+    return true;
+}
+
 double Track::toParameterTime(double time) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());

@@ -54,8 +54,7 @@ public:
     explicit Session(Script const& script, LockPolicy policy = LockPolicy::Counted);
     /// With a project, the session is one part of a long one: it begins by emptying that project,
     /// which never has more than some commands to undo.
-    explicit Session(Script const& script, boost::shared_ptr<InternalProject> const& project =
-                                               boost::shared_ptr<InternalProject>());
+    Session(Script const& script, boost::shared_ptr<InternalProject> const& project);
     ~Session();
 
     /// Is told each model that an edit leaves, on the thread of the session.
