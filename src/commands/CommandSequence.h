@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/CommandsFwd.h"
+#include "datatypes/Export.h"
 
 #include <boost/shared_ptr.hpp>
 
@@ -13,7 +14,7 @@ namespace tarn {
 /// The commands of a history in one piece of memory, oldest first: those that can be undone, a gap,
 /// and those that can be redone. One that is undone or redone goes over the gap to the other side,
 /// and one that is lost on the way widens it, so that neither needs memory.
-class CommandSequence
+class TARN_API CommandSequence
 {
 public:
     using Commands = std::vector<boost::shared_ptr<Command>>;
