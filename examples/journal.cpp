@@ -32,7 +32,7 @@ public:
 
 private:
     // Called before the primitive is: nothing has changed yet.
-    void before(std::string const& primitive, shared_ptr<tarn::Media const> const& media) override
+    void before(char const* primitive, shared_ptr<tarn::Media const> const& media) override
     {
         std::cout << "  " << primitive << m_detail;
         m_detail.clear();

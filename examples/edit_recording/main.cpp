@@ -310,7 +310,6 @@ void click(Host& host)
     drawFrame(mixer, time, location, "out/frame.svg");
 }
 
-//! [text]
 /// The project as text. Identity numbers are the run's own affair, so they are taken out.
 std::string textOf(tarn::Project const& project)
 {
@@ -319,7 +318,6 @@ std::string textOf(tarn::Project const& project)
     static std::regex const idents("(id|link|src|parameter)=\"[0-9]+\"");
     return std::regex_replace(xml.str(), idents, "$1=\"\"");
 }
-//! [text]
 
 /// @returns whether undoing and redoing gives the same text at every step
 bool undoAndRedo(Host& host, std::string const& empty)

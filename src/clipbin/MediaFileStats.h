@@ -74,6 +74,7 @@ public:
     Rect<int> rect() const;
     /// In pixels.
     void setRect(Rect<int> const& rect);
+    /// Pictures and sounds together; tracks of other kinds are not counted.
     unsigned int numTracks() const;
 
     /// Appends a track.

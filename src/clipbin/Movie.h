@@ -15,7 +15,9 @@ class TARN_API Movie
 public:
     virtual ~Movie();
 
+    /// In pixels.
     virtual MovieSize naturalSize() const = 0;
+    /// Of every kind.
     virtual std::size_t numTracks() const = 0;
     /// @param index below numTracks()
     virtual MovieTrack const& track(std::size_t index) const = 0;

@@ -69,6 +69,7 @@ public:
     boost::shared_ptr<Timeline const> timeline() const;
     /// @throws IndexException
     Rect<float> trackRect(unsigned int track) const;
+    /// Always true: a file that cannot be read makes no source.
     bool isOnline() const;
 
     /// Walks the private medias by track, the visual mixer's first. T is Media const, VisualMedia

@@ -3,6 +3,7 @@
 #include "clipbin/MediaFileStats.h"
 #include "clipbin/Source.h"
 #include "clipbin/SourceBinSentry.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/DanglingWeakPtrException.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "exceptions/ValueException.h"
@@ -135,7 +136,7 @@ bool SourceBin::containsSource(boost::shared_ptr<Source const> const& source) co
 
 void SourceBin::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "SourceBin";
+    XmlText(options) << "SourceBin";
 }
 
 void SourceBin::xmlAttributes(XMLable::Options&) const {}

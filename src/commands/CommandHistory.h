@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/CommandHistoryState.h"
+#include "commands/CommandSequence.h"
 #include "commands/CommandsFwd.h"
 #include "datatypes/Cloneable.h"
 #include "datatypes/Export.h"
@@ -11,7 +12,6 @@
 #include <boost/shared_ptr.hpp>
 
 #include <cstddef>
-#include <list>
 #include <string>
 
 namespace tarn {
@@ -60,6 +60,7 @@ public:
     /// two it does nothing. Does not notify; unchanged when it throws.
     void combineLastCommands();
 
+    /// A snapshot of now.
     CommandHistoryState state() const;
     /// Undoes and drops what was executed since the snapshot.
     /// @throws ValueException<CommandHistoryState> "State cannot be restored, cannot find undo
@@ -73,8 +74,10 @@ public:
     /// holds the project's write lock meanwhile: what is dropped may be the last owner of objects.
     void setUndoLimit(int limit);
 
-    std::size_t numUndoCommands() const { return m_undoCommands.size(); }
-    std::size_t numRedoCommands() const { return m_redoCommands.size(); }
+    /// How many steps undo() can take.
+    std::size_t numUndoCommands() const { return m_commands.numUndo(); }
+    /// How many steps redo() can take.
+    std::size_t numRedoCommands() const { return m_commands.numRedo(); }
 
     void xmlName(XMLable::Options& options) const override;
     void xmlAttributes(XMLable::Options& options) const override;
@@ -83,7 +86,6 @@ public:
     void xmlOfUndoCommands(XMLable::Options& options, int indent) const;
 
 private:
-    using CommandList = std::list<boost::shared_ptr<Command>>;
     class Run;
 
     CommandHistory(CommandHistory const& other);
@@ -91,17 +93,13 @@ private:
 
     boost::shared_ptr<Command const> getCurrentUndoStackTop() const;
     void removeExcessCommands();
-    /// @return false when the list does not hold `top`; nothing has changed then
-    static bool unrollStack(CommandList& commands, boost::shared_ptr<Command const> const& top,
-                            CommandHandler* handler);
-    static void unrollEverything(CommandList& commands, CommandHandler* handler);
-    static void unrollPortion(CommandList& commands, boost::shared_ptr<Command const> const& top,
-                              CommandHandler* handler);
+    bool canBeUndone(boost::shared_ptr<Command const> const& command) const;
+    bool canBeRedone(boost::shared_ptr<Command const> const& command) const;
+    /// @return false when neither list holds `top`; nothing has changed then
+    bool unrollTo(boost::shared_ptr<Command const> const& top);
 
     CommandHandler* m_handler;
-    // The newest last.
-    CommandList m_undoCommands;
-    CommandList m_redoCommands;
+    CommandSequence m_commands;
     int m_undoLimit;
     bool m_isRunning;
 };

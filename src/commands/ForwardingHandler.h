@@ -265,8 +265,7 @@ protected:
     /// Before each primitive edit: the operation's name, and the media if it edits one, else
     /// empty. The media is still as it was.
     /// @throws whatever refuses the edit: the primitive is not called, and its command fails
-    virtual void before(std::string const& primitive,
-                        boost::shared_ptr<Media const> const& media) = 0;
+    virtual void before(char const* primitive, boost::shared_ptr<Media const> const& media) = 0;
 
 private:
     /// The edges' half.
@@ -313,7 +312,7 @@ private:
         }
 
     private:
-        void tell(std::string const& primitive, Target const& target)
+        void tell(char const* primitive, Target const& target)
         {
             m_owner.before(primitive, boost::dynamic_pointer_cast<Media const>(target));
         }

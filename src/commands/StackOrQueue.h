@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <deque>
 #include <memory>
+#include <utility>
 
 namespace tarn {
 
@@ -57,7 +58,7 @@ public:
     /// Takes the next element out; there must be one.
     T pop()
     {
-        T element = m_elements.front();
+        T element = std::move(m_elements.front());
         m_elements.pop_front();
         return element;
     }

@@ -1,6 +1,7 @@
 #include "commands/TrimEndCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/OnePiece.h"
 #include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
@@ -19,7 +20,7 @@ boost::shared_ptr<TrimEndCmd> TrimEndCmd::create(boost::shared_ptr<Track const> 
                                                  boost::shared_ptr<Media const> const& media,
                                                  long long offset)
 {
-    return boost::shared_ptr<TrimEndCmd>(new TrimEndCmd(track, media, offset));
+    return OnePiece<TrimEndCmd>::make(track, media, offset);
 }
 
 TrimEndCmd* TrimEndCmd::clone() const

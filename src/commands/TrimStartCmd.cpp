@@ -1,6 +1,7 @@
 #include "commands/TrimStartCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/OnePiece.h"
 #include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
@@ -19,7 +20,7 @@ boost::shared_ptr<TrimStartCmd> TrimStartCmd::create(boost::shared_ptr<Track con
                                                      boost::shared_ptr<Media const> const& media,
                                                      long long offset)
 {
-    return boost::shared_ptr<TrimStartCmd>(new TrimStartCmd(track, media, offset));
+    return OnePiece<TrimStartCmd>::make(track, media, offset);
 }
 
 TrimStartCmd* TrimStartCmd::clone() const

@@ -31,6 +31,7 @@ public:
     static void addObservable(Subject const* subject);
     /// Drops every entry of what dies, the one being told included.
     static void removeObservable(Observable const* observable);
+    static void removeObservable(Subject const* subject);
     /// Detaches what dies from every subject that waits or is being told.
     static void removeObserver(Observer* observer);
 
@@ -40,7 +41,6 @@ private:
 
     static Queue& queue();
     static void deliver();
-    static void removeObserverSlowly(Observer* observer);
     /// For each subject that comes to be observed, and that is no more: room in the queue which is
     /// there when memory is not.
     static void addReserve();

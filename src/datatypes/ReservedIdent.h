@@ -19,6 +19,9 @@ public:
     ReservedIdent& operator=(ReservedIdent&& other) = delete;
     ~ReservedIdent();
 
+    /// Holds one that was drawn elsewhere; it holds none yet.
+    void hold(unsigned int ident);
+
     bool isHeld() const { return m_isHeld; }
     /// The one held.
     unsigned int ident() const { return m_ident; }

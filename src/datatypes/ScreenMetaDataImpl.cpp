@@ -5,12 +5,11 @@
 #include "datatypes/MadeOnFirstUse.h"
 #include "datatypes/ScreenMetaDataLoader.h"
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "parameters/ParameterInterface.h"
 
 #include <boost/filesystem/path.hpp>
-
-#include <ostream>
 
 namespace tarn {
 
@@ -51,9 +50,10 @@ std::string convertToRelativeIfNecessary(XMLable::Options const& options, std::s
 void writeParameterFile(XMLable::Options& options, int indent, std::string const& fileName,
                         char const* paramName)
 {
-    *options.stream << XMLable::genIndent(indent) << "<ParameterFile filename=\""
-                    << xml_representation(convertToRelativeIfNecessary(options, fileName))
-                    << "\" paramName=\"" << paramName << "\"/>\n";
+    XmlText(options).indent(indent)
+        << "<ParameterFile filename=\""
+        << xml_representation(convertToRelativeIfNecessary(options, fileName)) << "\" paramName=\""
+        << paramName << "\"/>\n";
 }
 
 }  // namespace
@@ -165,7 +165,7 @@ bool ScreenMetaDataImpl::isValid() const
 
 void ScreenMetaDataImpl::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "ScreenMetaData";
+    XmlText(options) << "ScreenMetaData";
 }
 
 void ScreenMetaDataImpl::xmlAttributes(XMLable::Options&) const {}

@@ -49,6 +49,7 @@ public:
     /// Becomes other x this, so `other` acts on a point last.
     void prepend(TransformMatrix const& other);
 
+    /// 0 for a singular matrix.
     double determinant() const;
     /// A singular matrix has an inverse of elements that are not finite.
     TransformMatrix inverse() const;

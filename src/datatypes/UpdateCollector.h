@@ -38,6 +38,7 @@ public:
     /// Lets each object that was collected notify, in no told order.
     /// @throws the first exception of an observer, once all have notified
     void stopCollecting();
+    /// Between startCollecting() and stopCollecting().
     bool isCollecting() const;
     /// Notes the object, once; it is kept alive until it has notified. When there is no memory to
     /// note it, it notifies at once.

@@ -23,6 +23,7 @@ public:
     /// @param position from 0 to 1 across the edge, and beyond it outside the media
     /// @param value what the parameter stores
     virtual double execute(double position, double value) const = 0;
+    /// Names the function in XML.
     virtual std::string ident() const = 0;
     /// Ignored by functions that need none. Before the function is stored.
     virtual void setAuxInfo(AuxEdgeModInfo const& info);

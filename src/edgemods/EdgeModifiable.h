@@ -25,7 +25,9 @@ public:
     virtual void setLeftEdgeModificationLength(long long length) = 0;
     /// Edit units back from the end; notifies.
     virtual void setRightEdgeModificationLength(long long length) = 0;
+    /// Edit units, as far as there is room.
     virtual long long leftEdgeModificationLength() const = 0;
+    /// Edit units, as far as there is room.
     virtual long long rightEdgeModificationLength() const = 0;
     /// Copies, in order of adding.
     virtual std::list<EdgeModification> leftEdgeModifications() const = 0;

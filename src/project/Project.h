@@ -52,6 +52,7 @@ public:
     virtual void combineLastCommands() = 0;
     /// The next command executed is then combined with the newest one of now. Takes no lock.
     virtual void combineNextCommand() = 0;
+    /// A snapshot to come back to by restoreCommandState(). Read lock.
     virtual CommandHistoryState commandState() const = 0;
     /// Undoes what was done since the snapshot, and drops it.
     /// @throws ValueException<CommandHistoryState> when the history no longer knows that state
@@ -62,8 +63,11 @@ public:
     /// @throws TarnMediaLibException "trying to detach a non observer"
     virtual void detachCommandObserver(CommandObserver* observer) = 0;
 
+    /// What is edited. Owned by the project and never replaced; read lock, here and below.
     virtual boost::shared_ptr<Timeline> timeline() const = 0;
+    /// What was loaded.
     virtual boost::shared_ptr<SourceBin> sourceBin() const = 0;
+    /// What can be undone and redone.
     virtual boost::shared_ptr<CommandHistory> commandHistory() const = 0;
     /// What was copied; owned by the project, as are those above.
     virtual boost::shared_ptr<ClipBoard> clipBoard() = 0;

@@ -69,11 +69,13 @@ public:
 
     LockPolicy policy() const;
 
+    /// Waits for the thread that writes, if it is another.
     void acquireReadLock();
+    /// On the thread that acquired it; see the policies for another.
     void releaseReadLock();
+    /// Waits for the threads inside.
     /// @throws ThreadLockingException "trying to aquire a write lock while reading" when the lock
-    /// is
-    ///         strict, and the calling thread holds it for reading only
+    ///         is strict and the calling thread holds it for reading only
     void acquireWriteLock();
     /// Changes nothing when another thread than the writer calls it.
     void releaseWriteLock();
@@ -88,8 +90,7 @@ public:
     void addThreadToReaders();
     void removeThreadFromReaders();
     /// @throws ThreadLockingException "trying to aquire a write lock while reading" when the
-    /// calling
-    ///         thread is in the table, or holds a strict lock for reading only
+    ///         calling thread is in the table, or holds a strict lock for reading only
     void assertNoReadLockFromThisThread() const;
     /// @}
 

@@ -31,7 +31,9 @@ public:
     VisualMediaIterator visualMediaEnd();
     ConstVisualMediaIterator visualMediaBegin() const;
     ConstVisualMediaIterator visualMediaEnd() const;
+    /// The same as visualMediaBegin() of a track that may not change.
     ConstVisualMediaIterator typeSafeMediaBegin() const;
+    /// The same as visualMediaEnd() of a track that may not change.
     ConstVisualMediaIterator typeSafeMediaEnd() const;
 
     /// What reaches into `range` (edit units of the timeline), with the part of it that each media

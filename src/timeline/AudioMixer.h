@@ -40,6 +40,7 @@ public:
     boost::shared_ptr<Attribute<unsigned int> const> attributeSampleRate() const;
     /// Bits a sample.
     boost::shared_ptr<Attribute<unsigned int> const> attributeBitDepth() const;
+    /// How many channels it gives out.
     boost::shared_ptr<Attribute<unsigned int> const> attributeNumChannels() const;
 
     /// A mixer with clones of what lies in `range` (edit units of the timeline) on those of its

@@ -51,7 +51,9 @@ public:
     AudioMediaIterator audioMediaEnd();
     ConstAudioMediaIterator audioMediaBegin() const;
     ConstAudioMediaIterator audioMediaEnd() const;
+    /// The same as audioMediaBegin() of a track that may not change.
     ConstAudioMediaIterator typeSafeMediaBegin() const;
+    /// The same as audioMediaEnd() of a track that may not change.
     ConstAudioMediaIterator typeSafeMediaEnd() const;
 
     /// What reaches into `range` (edit units of the timeline), with the part of it that each media

@@ -5,14 +5,13 @@
 #include "datatypes/Range.h"
 #include "edgemods/EdgeModifiable.h"
 #include "project/ConstIterator.h"
+#include "timeline/MediaPlace.h"
 #include "timeline/SubTimeline.h"
 #include "timeline/TimelineFwd.h"
 
 #include <boost/enable_shared_from_this.hpp>
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
-
-#include <list>
 
 namespace tarn {
 
@@ -28,7 +27,7 @@ class TARN_API Media : public SubTimeline,
                        public EdgeModifiable
 {
 public:
-    using LinkList = std::list<boost::weak_ptr<Media>>;
+    using LinkList = MediaPlace::LinkList;
 
     explicit Media(boost::weak_ptr<ThreadSafe const> const& project);
 
@@ -99,6 +98,20 @@ public:
     virtual MediaEditor& mediaEditor() = 0;
     virtual MediaEditor const& mediaEditor() const = 0;
 
+    /// @name For a track, which asks this of many medias under one lock
+    /// Without a lock of their own and, where the class keeps a MediaPlace, without a virtual call.
+    /// @{
+    Range<long long> const& placedRange() const
+    {
+        return m_keepsPlace ? m_place.range : trackRange();
+    }
+    bool isPlaced() const
+    {
+        return m_keepsPlace ? !m_place.parent.expired() : !parentTrack().expired();
+    }
+    bool mayBeLinked() const { return !m_keepsPlace || !m_place.links.empty(); }
+    /// @}
+
     /// The track ranges that edits would give.
     Range<long long> trackRangeWithMove(long long offset) const;
     /// Without asking whether the source offers that much, here and below.
@@ -109,6 +122,18 @@ public:
 protected:
     Media(Media const& other);
     Media& operator=(Media const& other) = delete;
+
+    /// For a class whose virtual queries answer from m_place; others leave it alone.
+    void keepPlace(Range<long long> const& range)
+    {
+        m_place.range = range;
+        m_keepsPlace = true;
+    }
+
+    MediaPlace m_place;
+
+private:
+    bool m_keepsPlace = false;
 };
 
 }  // namespace tarn

@@ -77,6 +77,7 @@ public:
     TrackList::iterator trackEnd();
     ConstTrackIterator trackBegin() const;
     ConstTrackIterator trackEnd() const;
+    /// Read lock.
     unsigned int numTracks() const;
     /// @throws IndexException
     boost::shared_ptr<Track> trackAtIndex(unsigned int index);
@@ -122,6 +123,8 @@ public:
     int numEffects() const override;
 
     // Parameters run on the timeline's clock, so each conversion gives its argument back.
+    /// Always.
+    bool showsAsStored(ParameterInterface const* parameter) const override;
     double toParameterTime(double time) const override;
     double fromParameterTime(double time) const override;
     long long fromGlobalToParametricTime(long long time) const override;

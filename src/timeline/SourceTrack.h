@@ -23,13 +23,14 @@ class TARN_API SourceTrack
 public:
     /// @throws TarnMediaLibException `refusal` when the source is empty or lacks that track
     SourceTrack(boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
-                std::string const& refusal);
+                char const* refusal);
     explicit SourceTrack(std::string const& fileName);
     SourceTrack(SourceTrack const& other);
     SourceTrack& operator=(SourceTrack const& other) = delete;
 
     /// Empty when there is only a file name.
     boost::shared_ptr<Source const> source() const;
+    /// Counted from 0.
     unsigned int trackNumber() const { return m_trackNumber; }
     /// The track's own file in a bundle, otherwise the source's file.
     std::string fileName() const;

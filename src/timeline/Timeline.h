@@ -83,6 +83,7 @@ public:
 
     std::string description() const override;
 
+    /// Read lock, here and below.
     bool hasVisualMixer() const;
     bool hasAudioMixer() const;
     /// Empty when there is none.

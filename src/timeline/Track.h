@@ -83,6 +83,7 @@ public:
 
     std::string description() const override;
 
+    /// Read lock.
     unsigned int numMedias() const;
     /// The medias in time order. The const forms hold the read lock for their life; the others hold
     /// none.
@@ -231,6 +232,8 @@ public:
     int numEffects() const override;
 
     // Parameters run on the timeline's clock, so each conversion gives its argument back.
+    /// Always.
+    bool showsAsStored(ParameterInterface const* parameter) const override;
     double toParameterTime(double time) const override;
     double fromParameterTime(double time) const override;
     long long fromGlobalToParametricTime(long long time) const override;
@@ -249,6 +252,10 @@ private:
     /// The mirror of ParentedMedia's test: only a parentless media may come to a track.
     /// @throws ValueException<boost::shared_ptr<Media>>
     static void assertParentless(boost::shared_ptr<Media> const& media);
+
+    MediaMap::iterator entryFreeToTake(boost::shared_ptr<Media const> const& media,
+                                       Range<long long> const& range, bool includeLinks);
+    void rekeyInPlace(MediaMap::iterator entry, long long newKey);
 
     void checkStartIsFree(boost::shared_ptr<Media const> const& media, long long newStart,
                           bool includeLinks) const;

@@ -17,7 +17,9 @@ public:
     std::string fileName() const override;
     std::string containerFileName() const override;
 
+    /// Empty for a file known by name only.
     boost::shared_ptr<Source const> source() const;
+    /// Counted from 0.
     unsigned int trackNumber() const;
     /// Whether it is of that very source; false for an empty one.
     bool isInstanceOf(boost::shared_ptr<Source const> const& source) const;

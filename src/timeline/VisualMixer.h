@@ -42,7 +42,9 @@ public:
     boost::shared_ptr<AbstractVisualTrack> trackAtIndex(unsigned int index);
     boost::shared_ptr<AbstractVisualTrack const> trackAtIndex(unsigned int index) const;
 
+    /// Of the frame, in pixels.
     boost::shared_ptr<Attribute<float> const> attributeWidth() const;
+    /// Of the frame, in pixels.
     boost::shared_ptr<Attribute<float> const> attributeHeight() const;
 
     /// @name Camera parameters, in the timeline's edit units; the const forms take the read lock

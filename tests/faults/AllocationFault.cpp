@@ -16,6 +16,7 @@ struct State
 {
     bool isArmed = false;
     int requestsToGo = 0;
+    int numSeen = 0;
     AllocationFault::Lasting lasting = AllocationFault::Once;
     std::thread::id thread;
     bool hasFired = false;
@@ -30,8 +31,10 @@ bool isRefused()
 {
     if (!s_state.isArmed || s_state.thread != std::this_thread::get_id())
         return false;
-    if (s_state.requestsToGo > 0)
+    if (s_state.requestsToGo > 0) {
         --s_state.requestsToGo;
+        ++s_state.numSeen;
+    }
     if (s_state.requestsToGo > 0)
         return false;
     if (s_state.hasFired && s_state.lasting == AllocationFault::Once)
@@ -64,6 +67,7 @@ AllocationFault::AllocationFault(int k, Lasting lasting)
     static int const s_loaded = backtrace(s_state.frames, 1);
     static_cast<void>(s_loaded);
     s_state.requestsToGo = k;
+    s_state.numSeen = 0;
     s_state.lasting = lasting;
     s_state.thread = std::this_thread::get_id();
     s_state.hasFired = false;
@@ -79,6 +83,11 @@ AllocationFault::~AllocationFault()
 bool AllocationFault::hasFired()
 {
     return s_state.hasFired;
+}
+
+int AllocationFault::numSeen()
+{
+    return s_state.numSeen;
 }
 
 long long AllocationFault::numRefused()

@@ -26,6 +26,8 @@ public:
 
     /// Whether a request has failed yet.
     static bool hasFired();
+    /// How many requests the latest fault has seen, up to the first that it refused.
+    static int numSeen();
     /// How many requests have been refused since the program began.
     static long long numRefused();
     /// The calls that led to the first request refused by the latest fault, one a line.

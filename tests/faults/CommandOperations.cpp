@@ -105,6 +105,8 @@ Operation row(char const* name, char const* strip, Operation::Kind kind, Factory
     result.kind = kind;
     result.prepare = prepare;
     result.command = command;
+    result.leavesClipping =
+        result.name == "CopySelectClippingCmd" || result.name == "CutSelectClippingCmd";
     return result;
 }
 

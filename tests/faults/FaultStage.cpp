@@ -18,6 +18,8 @@
 #include "timeline/Media.h"
 #include "timeline/VisualMixer.h"
 
+#include <algorithm>
+#include <memory>
 #include <new>
 #include <ostream>
 
@@ -38,6 +40,36 @@ std::vector<boost::shared_ptr<Mixer>> mixersOf(Timeline const& timeline)
     return mixers;
 }
 
+/// What a step puts on the clipboard is taken off it apart from the steps before.
+bool isSameButForBoard(Fingerprint const& one, Fingerprint const& other)
+{
+    if (one == other)
+        return true;
+    auto const differences = one.differences(other);
+    return std::all_of(differences.begin(), differences.end(),
+                       [](auto const& difference) { return difference.field == Field::Clipping; });
+}
+
+/// The text of a model without the line that counts its clippings.
+std::string withoutBoard(std::string const& text)
+{
+    std::size_t const line = text.find("\n clippings ");
+    std::size_t const end = text.find('\n', line + 1);
+    return line == std::string::npos ? text : text.substr(0, line) + text.substr(end);
+}
+
+/// An attribute whose value is an object is written as its address.
+std::string withoutAddresses(std::string const& xml)
+{
+    std::string text;
+    std::size_t from = 0;
+    for (std::size_t at = xml.find("0x"); at != std::string::npos; at = xml.find("0x", from)) {
+        text.append(xml, from, at - from) += '#';
+        from = xml.find_first_not_of("0123456789abcdef", at + 2);
+    }
+    return text.append(xml, from, std::string::npos);
+}
+
 }  // namespace
 
 std::ostream& operator<<(std::ostream& out, Operation const& operation)
@@ -55,13 +87,35 @@ FaultStage::FaultStage(Operation const& operation, Phase phase)
     project->execute(NullCmd::create());
     project->execute(NullCmd::create());
     project->undo();
-    if (phase != Execute) {
-        m_command = operation.command(*this);
-        project->execute(m_command);
-    }
+    bringTo(phase);
+    observeAll();
+}
+
+void FaultStage::bringTo(Phase phase)
+{
+    if (phase == Execute)
+        return;
+    m_command = m_operation.command(*this);
+    project->execute(m_command);
     if (phase == Redo)
         project->undo();
-    observeAll();
+}
+
+bool FaultStage::beginAgain()
+{
+    if (m_operation.leavesClipping)
+        return false;
+    if (m_phase == Undo) {
+        // What a composite could not undo, it has lost. Another command can still be undone by who
+        // holds it.
+        if (m_operation.kind != Operation::Atomic)
+            return false;
+        ReadWriteMutex::ScopedWriteLock lock(project->mutex());
+        NotifyDelay const delay;
+        m_command->unexecute(project.get());
+    }
+    bringTo(m_phase);
+    return true;
 }
 
 FaultStage::~FaultStage()
@@ -117,13 +171,17 @@ FaultStage::Outcome FaultStage::actWithFault(int k, AllocationFault::Lasting las
     m_callsBefore.clear();
     for (CountingObserver const& observer : m_observers)
         m_callsBefore.push_back(observer.calls());
-    m_hasPrimitive = false;
+    m_betweenPrimitives.clear();
     std::unique_ptr<WatchingHandler> watch;
-    if (m_operation.kind != Operation::Atomic) {
+    // An undo that breaks down stops where it is; so does the taking back of a composite, when
+    // there is no memory for that either.
+    bool const mayStop = m_operation.kind == Operation::Pair ||
+                         (m_operation.kind == Operation::Composite &&
+                          (m_phase != Execute || lasting == AllocationFault::ForEver));
+    if (mayStop) {
         watch.reset(new WatchingHandler(*project, [this](auto const&, auto const&) {
             AllocationFault::Pause const pause;
-            m_atLastPrimitive = Fingerprint(*this);
-            m_hasPrimitive = true;
+            m_betweenPrimitives.push_back(Fingerprint(*this));
         }));
     }
     std::string thrown;
@@ -153,7 +211,9 @@ std::string FaultStage::wholeText() const
 {
     // A reader, though what it reads may be handed out for changes.
     FaultStage& self = const_cast<FaultStage&>(*this);
-    return exactModelText(*project) + (m_operation.tell ? m_operation.tell(self) : "");
+    std::string const model = exactModelText(*project);
+    return (m_operation.leavesClipping ? withoutBoard(model) : model) +
+           (m_operation.tell ? m_operation.tell(self) : "");
 }
 
 void FaultStage::renewHistory(Snapshot& snapshot) const
@@ -167,8 +227,10 @@ void FaultStage::renewHistory(Snapshot& snapshot) const
 std::string FaultStage::difference(Snapshot const& before) const
 {
     std::string text;
-    for (Fingerprint::Difference const& found : before.model.differences(Fingerprint(*this)))
-        text += found.text() + "\n";
+    for (Fingerprint::Difference const& found : before.model.differences(Fingerprint(*this))) {
+        if (!m_operation.leavesClipping || found.field != Field::Clipping)
+            text += found.text() + "\n";
+    }
     std::string const now = wholeText();
     if (text.empty() && now != before.text)
         text = "the model is\n" + now + "\nand not\n" + before.text;
@@ -177,7 +239,9 @@ std::string FaultStage::difference(Snapshot const& before) const
 
 bool FaultStage::isBetweenPrimitives() const
 {
-    return m_hasPrimitive && m_atLastPrimitive == Fingerprint(*this);
+    Fingerprint const now(*this);
+    return std::any_of(m_betweenPrimitives.begin(), m_betweenPrimitives.end(),
+                       [&now](Fingerprint const& then) { return isSameButForBoard(then, now); });
 }
 
 std::string FaultStage::historyFault(Snapshot const& before) const
@@ -187,6 +251,8 @@ std::string FaultStage::historyFault(Snapshot const& before) const
     std::list<boost::shared_ptr<Command>> redo = before.redoCommands;
     if (m_phase == Redo)
         redo.pop_back();
+    if (m_operation.dropsCommands)
+        return "";
     if (now.redoCommands() != redo)
         return "the list to redo is another";
     if (numUndo != before.numUndo - (m_phase == Undo ? 1 : 0))
@@ -247,7 +313,7 @@ std::string FaultStage::look() const
     return strip() + "\n" + std::to_string(project->clipBoard()->size()) + " clippings, " +
            std::to_string(project->commandHistory()->numUndoCommands()) + " to undo, " +
            std::to_string(project->commandHistory()->numRedoCommands()) + " to redo\n" +
-           xmlWithoutIdents(*project) +
+           withoutAddresses(xmlWithoutIdents(*project)) +
            (m_operation.tell ? m_operation.tell(const_cast<FaultStage&>(*this)) : "");
 }
 

@@ -49,13 +49,16 @@ public:
 
     void act();
     Outcome actWithFault(int k, AllocationFault::Lasting lasting);
+    /// Brings it back to where the phase can begin, after a failure that has changed no model.
+    /// @return false when only another stage can do that
+    bool beginAgain();
 
     Snapshot snapshot() const;
     /// Of a snapshot whose model is the present one.
     void renewHistory(Snapshot& snapshot) const;
     /// How the model differs from that one; empty if it does not. The history is another matter.
     std::string difference(Snapshot const& before) const;
-    /// Whether the model is what it was when the last primitive of the faulty run began.
+    /// Whether the model is what it was when some primitive of the faulty run began.
     bool isBetweenPrimitives() const;
     /// How the history differs from what the phase has to leave when it throws; empty if not at
     /// all.
@@ -84,6 +87,7 @@ private:
     std::string wholeText() const;
     void observeAll();
     void observe(Subject const& subject);
+    void bringTo(Phase phase);
     int callsOfObservers() const;
 
     Operation m_operation;
@@ -92,8 +96,7 @@ private:
     std::list<CountingObserver> m_observers;
     std::vector<Subject const*> m_observed;
     std::vector<int> m_callsBefore;
-    Fingerprint m_atLastPrimitive;
-    bool m_hasPrimitive = false;
+    std::vector<Fingerprint> m_betweenPrimitives;
 };
 
 }  // namespace test

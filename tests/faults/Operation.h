@@ -29,6 +29,8 @@ struct Operation
     std::string name;   ///< of a command, its class
     std::string strip;  ///< what it begins with; see Strip
     Kind kind = Atomic;
+    bool leavesClipping = false;  ///< its copy stays on the board when it is taken back
+    bool dropsCommands = false;   ///< whatever its end, what it has undone is on no list
     std::function<void(FaultStage&)> prepare;  ///< what else it begins with; may be empty
     std::function<boost::shared_ptr<Command>(FaultStage&)> command;
     std::function<void(FaultStage&)> run;

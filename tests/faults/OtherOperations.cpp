@@ -49,6 +49,7 @@ Operation row(char const* name, Action const& run, Action const& prepare = Actio
     result.prepare = prepare;
     result.run = run;
     result.tell = tell;
+    result.dropsCommands = result.name == "return to a snapshot";
     return result;
 }
 

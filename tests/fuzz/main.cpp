@@ -27,6 +27,7 @@ struct Options
 {
     std::uint64_t seed = 1;
     std::size_t commands = 20000;
+    double seconds = 1e9;
     int sessionLength = 150;
     std::size_t maxFaults = 5;
     std::string xmlFile;
@@ -58,6 +59,8 @@ Options parse(int argc, char** argv)
             options.sessionLength = std::stoi(value);
         else if (option == "--max-faults")
             options.maxFaults = std::stoull(value);
+        else if (option == "--seconds")
+            options.seconds = std::stod(value);
         else if (option == "--xml")
             options.xmlFile = value;
         else if (option == "--scatter")
@@ -179,7 +182,12 @@ bool run(Options const& options)
     std::vector<Sizes> sizes;
     auto const begin = std::chrono::steady_clock::now();
     std::size_t nextReport = options.commands / 10;
-    for (std::uint64_t seed = options.seed; figures.commands < options.commands; ++seed) {
+    auto const isInTime = [&] {
+        std::chrono::duration<double> const used = std::chrono::steady_clock::now() - begin;
+        return used.count() < options.seconds;
+    };
+    for (std::uint64_t seed = options.seed; figures.commands < options.commands && isInTime();
+         ++seed) {
         runSession(tarn::test::generate(seed, options.sessionLength), project, figures, faults,
                    xml);
         ++sessions;
@@ -215,9 +223,10 @@ int main(int argc, char** argv)
     try {
         return run(parse(argc, argv)) ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (std::exception const& error) {
-        std::cerr << "fuzz_edits: " << error.what()
-                  << "\nusage: fuzz_edits [--seed N] [--commands M] [--session-length L]"
-                     " [--max-faults F] [--xml FILE] [--ops] [--scatter N] [--one-project]\n";
+        std::cerr
+            << "fuzz_edits: " << error.what()
+            << "\nusage: fuzz_edits [--seed N] [--commands M] [--session-length L] [--seconds T]"
+               " [--max-faults F] [--xml FILE] [--ops] [--scatter N] [--one-project]\n";
         return 2;
     }
 }

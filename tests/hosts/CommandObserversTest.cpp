@@ -72,7 +72,7 @@ protected:
     std::size_t numUndo() const { return project->commandHistory()->numUndoCommands(); }
     std::size_t numRedo() const { return project->commandHistory()->numRedoCommands(); }
 
-    static constexpr char const* k_now = "V1: .aaa.bb / A1: .aaa.bb / A2: c";
+    static constexpr char const* k_now = "A1: .aaa.bb / A2: c / V1: .aaa.bb";
 
 private:
     std::unique_ptr<Announced> m_observer;
@@ -120,10 +120,10 @@ TEST_P(CallingCommandObserversTest, ItsEditIsOverBeforeTheOneAnnouncedBegins)
         project->execute(move("V1.b", +1));
     });
     project->execute(move("V1.a", +2));  // only now is there room for it
-    EXPECT_EQ("V1: ...aaabb / A1: ...aaabb / A2: c", strip());
+    EXPECT_EQ("A1: ...aaabb / A2: c / V1: ...aaabb", strip());
     EXPECT_EQ(3u, numUndo());
     project->undo();
-    EXPECT_EQ("V1: .aaa..bb / A1: .aaa..bb / A2: c", strip());
+    EXPECT_EQ("A1: .aaa..bb / A2: c / V1: .aaa..bb", strip());
     EXPECT_TRUE(isAtRest());
 }
 

@@ -201,7 +201,7 @@ TEST_P(CallingDispatchersTest, MayRemoveTheMediaItReceives)
     MediaActor remover;
     remover.action = [this] { project->execute(remove("V1.a")); };
     track("V1")->medias().begin()->second->receiveDispatcher(&remover);
-    EXPECT_EQ("V1: .....bb / A1: .....bb / A2: c", strip());
+    EXPECT_EQ("A1: .....bb / A2: c / V1: .....bb", strip());
     project->undo();
     EXPECT_TRUE(isAtRest());
 }

@@ -99,7 +99,7 @@ protected:
 };
 
 // The sound on A2 is for isAtRest.
-inline char const* const HostTest::k_strip = "V1: aaa..bb / A1: aaa..bb / A2: c";
+inline char const* const HostTest::k_strip = "A1: aaa..bb / A2: c / V1: aaa..bb";
 
 }  // namespace test
 }  // namespace tarn

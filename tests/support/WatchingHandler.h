@@ -24,18 +24,22 @@ public:
     WatchingHandler(InternalProject& project, PrimitiveHook const& hook)
         : ForwardingHandler(project), m_project(project), m_hook(hook)
     {
+        m_primitive.reserve(64);
         m_project.setCommandHandler(this);
     }
     ~WatchingHandler() override { m_project.setCommandHandler(&m_project); }
 
 private:
-    void before(std::string const& primitive, boost::shared_ptr<Media const> const& media) override
+    void before(char const* primitive, boost::shared_ptr<Media const> const& media) override
     {
-        m_hook(primitive, media);
+        m_primitive = primitive;
+        m_hook(m_primitive, media);
     }
 
     InternalProject& m_project;
     PrimitiveHook m_hook;
+    // With room for every name, so that it can be told when there is no memory.
+    std::string m_primitive;
 };
 
 /// Runs a command and tells what it made of the model: each primitive with the start of its media
