@@ -78,7 +78,7 @@ public:
     Iterator<T> mediaEnd() const;
 
     /// Replaces the file, and with it the names of component and side files that contain the old
-    /// name. Everything else that was read from the old file stays. What throws has changed nothing.
+    /// name. Everything else that was read from the old file stays. What throws changes nothing.
     /// @throws IOException when the new file cannot be read
     /// @throws TarnMediaLibException "attempting to replace source's file with an incompatable
     ///         file" unless the number of tracks is the same, and kind and length of the first

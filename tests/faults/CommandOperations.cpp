@@ -105,7 +105,8 @@ Operation row(char const* name, char const* strip, Operation::Kind kind, Factory
     result.kind = kind;
     result.prepare = prepare;
     result.command = command;
-    result.leavesClipping = result.name == "CopySelectClippingCmd" || result.name == "CutSelectClippingCmd";
+    result.leavesClipping =
+        result.name == "CopySelectClippingCmd" || result.name == "CutSelectClippingCmd";
     return result;
 }
 
@@ -193,8 +194,7 @@ std::vector<Operation> placement()
         row("NullCmd", k_strip, k_atomic, [](FaultStage&) { return NullCmd::create(); }),
         row("AddMediaCmd", k_strip, k_atomic,
             [](FaultStage& s) { return AddMediaCmd::create(s.track("V1"), s.pool(0), 200); }),
-        row("RemoveMediaCmd", k_strip, k_composite,
-            [](FaultStage& s) { return s.remove("V1.a"); }),
+        row("RemoveMediaCmd", k_strip, k_composite, [](FaultStage& s) { return s.remove("V1.a"); }),
         row("RemoveMediaCmd alone", k_strip, k_atomic,
             [](FaultStage& s) { return s.remove("V1.c"); }),
         row("MoveCmd", k_strip, k_atomic,
@@ -205,8 +205,10 @@ std::vector<Operation> placement()
             [](FaultStage& s) { return TrimStartCmd::create(s.track("V1"), s.media("V1.a"), 10); }),
         row("TrimEndCmd", k_strip, k_atomic,
             [](FaultStage& s) { return TrimEndCmd::create(s.track("V1"), s.media("V1.a"), -10); }),
-        // The sound's file ends where the picture's goes on: it stays as it is, and that is no failure.
-        row("TrimEndCmd past a linked media's end", "A1: aa / V1: aa", k_atomic,
+        // The sound's file ends where the picture's goes on: it stays as it is, and that is no
+        // failure.
+        row(
+            "TrimEndCmd past a linked media's end", "A1: aa / V1: aa", k_atomic,
             [](FaultStage& s) { return TrimEndCmd::create(s.track("V1"), s.pool(0), 10); },
             [](FaultStage& s) {
                 s.project->execute(AddMediaCmd::create(s.track("V1"), s.pool(0), 200));
@@ -234,13 +236,15 @@ std::vector<Operation> placement()
 std::vector<Operation> tracksAndMixers()
 {
     return {
-        row("NewVisualMixerCmd", "A1: aa", k_atomic,
+        row(
+            "NewVisualMixerCmd", "A1: aa", k_atomic,
             [](FaultStage&) { return NewVisualMixerCmd::create(320, 200); },
             [](FaultStage& s) {
                 if (s.visualMixer())
                     s.project->execute(RemoveMixerCmd<VisualMixer>::create());
             }),
-        row("NewAudioMixerCmd", "V1: aa", k_atomic,
+        row(
+            "NewAudioMixerCmd", "V1: aa", k_atomic,
             [](FaultStage&) { return NewAudioMixerCmd::create(48000, 24, 2); },
             [](FaultStage& s) {
                 if (s.audioMixer())
@@ -276,15 +280,19 @@ std::vector<Operation> tracksAndMixers()
 std::vector<Operation> cuts()
 {
     return {
-        row("SplitCmd", k_strip, k_composite,
+        row(
+            "SplitCmd", k_strip, k_composite,
             [](FaultStage& s) { return SplitCmd::create(s.track("V1"), 20); }, fade),
-        row("IntraMediaCutCmd", "A1: aaaaaa / V1: aaaaaa", k_composite,
+        row(
+            "IntraMediaCutCmd", "A1: aaaaaa / V1: aaaaaa", k_composite,
             [](FaultStage& s) {
                 return IntraMediaCutCmd::create(s.track("V1"), Range<long long>(20, 20));
             },
             fade),
         row("RippleMoveCmd", k_strip, k_composite,
-            [](FaultStage& s) { return RippleMoveCmd::create(s.track("V1"), s.media("V1.a"), 20); }),
+            [](FaultStage& s) {
+                return RippleMoveCmd::create(s.track("V1"), s.media("V1.a"), 20);
+            }),
         row("SplittingRippleMoveCmd", k_strip, k_composite,
             [](FaultStage& s) { return onTracks(s, SplittingRippleMoveCmd::create(20, 20)); }),
         row("InsertSpaceCmd", k_strip, k_composite,
@@ -304,7 +312,8 @@ std::vector<Operation> cuts()
             [](FaultStage& s) { return CloneCmd<Media>::create(s.media("V1.a")); }),
         row("CloneAddMediasCmd", k_strip, k_composite,
             [](FaultStage& s) { return cloning(s, CloneAddMediasCmd::create(200)); }),
-        row("CloneAddLinkMediasCmd", k_strip, k_composite,
+        row(
+            "CloneAddLinkMediasCmd", k_strip, k_composite,
             [](FaultStage& s) { return cloning(s, CloneAddLinkMediasCmd::create(200)); }, fade),
         row("CloneInsertMediasCmd", "A1: aabb / V1: aabb", k_composite,
             [](FaultStage& s) { return cloning(s, CloneInsertMediasCmd::create(10)); }),
@@ -321,12 +330,14 @@ std::vector<Operation> contents()
             [](FaultStage& s) { return AddEffectCmd::create(s.track("V1"), s.blur()); }),
         row("AddEffectCmd to a mixer", k_strip, k_atomic,
             [](FaultStage& s) { return AddEffectCmd::create(s.visualMixer(), s.blur()); }),
-        row("RemoveEffectCmd", k_strip, k_atomic,
+        row(
+            "RemoveEffectCmd", k_strip, k_atomic,
             [](FaultStage& s) {
                 return RemoveEffectCmd::create(s.media("V1.a"), s.media("V1.a")->effectAtIndex(0));
             },
             effects),
-        row("SwapEffectOrderCmd", k_strip, k_atomic,
+        row(
+            "SwapEffectOrderCmd", k_strip, k_atomic,
             [](FaultStage& s) { return SwapEffectOrderCmd::create(s.media("V1.a"), 0, 1); },
             effects),
         row("AddLeftEdgeModCmd", k_strip, k_atomic,
@@ -337,46 +348,62 @@ std::vector<Operation> contents()
             [](FaultStage& s) {
                 return AddRightEdgeModCmd::create(s.media("V1.a"), fadeOut(s.media("V1.a")));
             }),
-        row("RemoveLeftEdgeModCmd", k_strip, k_atomic,
+        row(
+            "RemoveLeftEdgeModCmd", k_strip, k_atomic,
             [](FaultStage& s) { return RemoveLeftEdgeModCmd::create(s.media("V1.a"), opacity(s)); },
             fade),
-        row("RemoveRightEdgeModCmd", k_strip, k_atomic,
-            [](FaultStage& s) { return RemoveRightEdgeModCmd::create(s.media("V1.a"), opacity(s)); },
+        row(
+            "RemoveRightEdgeModCmd", k_strip, k_atomic,
+            [](FaultStage& s) {
+                return RemoveRightEdgeModCmd::create(s.media("V1.a"), opacity(s));
+            },
             fade),
-        row("MoveLeftEdgeModCmd", k_strip, k_atomic,
+        row(
+            "MoveLeftEdgeModCmd", k_strip, k_atomic,
             [](FaultStage& s) { return MoveLeftEdgeModCmd::create(s.media("V1.a"), 5); }, fade),
-        row("MoveRightEdgeModCmd", k_strip, k_atomic,
+        row(
+            "MoveRightEdgeModCmd", k_strip, k_atomic,
             [](FaultStage& s) { return MoveRightEdgeModCmd::create(s.media("V1.a"), 5); }, fade),
-        row("EdgeModCloneCmd", k_strip, k_composite,
+        row(
+            "EdgeModCloneCmd", k_strip, k_composite,
             [](FaultStage& s) { return EdgeModCloneCmd::create(s.media("V1.a")); }, fade),
         row("AddKeyFrameCmd", k_strip, k_atomic,
             [](FaultStage& s) { return AddKeyFrameCmd<double>::create(opacity(s), 10, 0.5); }),
-        row("ChangeKeyFrameCmd", k_strip, k_atomic,
+        row(
+            "ChangeKeyFrameCmd", k_strip, k_atomic,
             [](FaultStage& s) { return ChangeKeyFrameCmd<double>::create(opacity(s), 40, 0.5); },
             frames),
-        row("RemoveKeyFrameCmd", k_strip, k_atomic,
-            [](FaultStage& s) { return RemoveKeyFrameCmd<double>::create(opacity(s), 40); }, frames),
-        row("MoveKeyFrameCmd", k_strip, k_atomic,
+        row(
+            "RemoveKeyFrameCmd", k_strip, k_atomic,
+            [](FaultStage& s) { return RemoveKeyFrameCmd<double>::create(opacity(s), 40); },
+            frames),
+        row(
+            "MoveKeyFrameCmd", k_strip, k_atomic,
             [](FaultStage& s) { return MoveKeyFrameCmd::create(opacity(s), 40, 100); }, frames),
-        row("MoveKeyframesCmd", k_strip, k_atomic,
+        row(
+            "MoveKeyframesCmd", k_strip, k_atomic,
             [](FaultStage& s) { return MoveKeyframesCmd::create(opacity(s), 15); }, frames),
-        row("SetInterpolaterCmd", k_strip, k_composite,
+        row(
+            "SetInterpolaterCmd", k_strip, k_composite,
             [](FaultStage& s) {
                 return SetInterpolaterCmd<double>::create(opacity(s), 40,
                                                           LeftInterpolater<double>::instance());
             },
             frames),
-        row("AddMarkerCmd", k_strip, k_atomic,
+        row(
+            "AddMarkerCmd", k_strip, k_atomic,
             [](FaultStage& s) {
                 return AddMarkerCmd::create(s.timeline(), 60, "a name that is rather long");
             },
             markers),
-        row("RenameMarkerCmd", k_strip, k_atomic,
+        row(
+            "RenameMarkerCmd", k_strip, k_atomic,
             [](FaultStage& s) {
                 return RenameMarkerCmd::create(s.timeline(), 40, "a name that is longer by far");
             },
             markers),
-        row("RemoveMarkerCmd", k_strip, k_atomic,
+        row(
+            "RemoveMarkerCmd", k_strip, k_atomic,
             [](FaultStage& s) { return RemoveMarkerCmd::create(s.timeline(), 40); }, markers),
         row("ChangeAttributeCmd", k_strip, k_atomic,
             [](FaultStage& s) {
@@ -394,7 +421,8 @@ std::vector<Operation> clipBin()
 {
     Range<long long> const range(10, 20);
     return {
-        row("CopyRangeClippingCmd", k_strip, k_atomic,
+        row(
+            "CopyRangeClippingCmd", k_strip, k_atomic,
             [range](FaultStage& s) {
                 return onTracks(s, CopyRangeClippingCmd::create(s.timeline(), range,
                                                                 "a name that is rather long"));
@@ -414,13 +442,15 @@ std::vector<Operation> clipBin()
                 return CutSelectClippingCmd::create(
                     s.timeline(), ConstMediaVector{s.media("V1.a"), s.media("V1.b")}, "cut");
             }),
-        row("PutClippingCmd", k_strip, k_composite,
+        row(
+            "PutClippingCmd", k_strip, k_composite,
             [](FaultStage& s) {
                 return mapped(s, PutClippingCmd::create(s.clipping(0), 200),
                               s.clipping(0)->timeline());
             },
             copied),
-        row("InsertClippingCmd", "A1: aaaa / V1: aaaa", k_composite,
+        row(
+            "InsertClippingCmd", "A1: aaaa / V1: aaaa", k_composite,
             [](FaultStage& s) {
                 return mapped(s, InsertClippingCmd::create(s.clipping(0), 20),
                               s.clipping(0)->timeline());
@@ -436,18 +466,20 @@ std::vector<Operation> clipBin()
             }),
         row("AddSourceCmd", k_strip, k_composite,
             [](FaultStage& s) {
-                return mapped(
-                    s, AddSourceCmd::create(s.source('a'), 300, Range<long long>(0, 1)),
-                    s.source('a')->timeline());
+                return mapped(s, AddSourceCmd::create(s.source('a'), 300, Range<long long>(0, 1)),
+                              s.source('a')->timeline());
             }),
         row("LoadSourceCmd", k_strip, k_atomic,
             [](FaultStage& s) { return LoadSourceCmd::create(s.foreignSource()); }),
-        row("LoadSourceCmd by name", k_strip, k_atomic,
+        row(
+            "LoadSourceCmd by name", k_strip, k_atomic,
             [](FaultStage&) { return LoadSourceCmd::create(std::string("fake:screen")); }, screen),
-        row("UnloadSourceCmd", k_strip, k_atomic,
+        row(
+            "UnloadSourceCmd", k_strip, k_atomic,
             [](FaultStage& s) { return UnloadSourceCmd::create(s.foreignSource()); },
             [](FaultStage& s) { s.project->execute(LoadSourceCmd::create(s.foreignSource())); }),
-        row("LoadScreenSourceCmd", k_strip, k_composite,
+        row(
+            "LoadScreenSourceCmd", k_strip, k_composite,
             [](FaultStage& s) {
                 return LoadScreenSourceCmd::create(
                     "fake:screen", boost::const_pointer_cast<ScreenMetaData>(s.metaData()));

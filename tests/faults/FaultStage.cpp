@@ -46,9 +46,8 @@ bool isSameButForBoard(Fingerprint const& one, Fingerprint const& other)
     if (one == other)
         return true;
     auto const differences = one.differences(other);
-    return std::all_of(differences.begin(), differences.end(), [](auto const& difference) {
-        return difference.field == Field::Clipping;
-    });
+    return std::all_of(differences.begin(), differences.end(),
+                       [](auto const& difference) { return difference.field == Field::Clipping; });
 }
 
 /// The text of a model without the line that counts its clippings.
@@ -174,11 +173,10 @@ FaultStage::Outcome FaultStage::actWithFault(int k, AllocationFault::Lasting las
         m_callsBefore.push_back(observer.calls());
     m_betweenPrimitives.clear();
     std::unique_ptr<WatchingHandler> watch;
-    // An undo that breaks down stops where it is; so does the taking back of a composite, when there
-    // is no memory for that either.
-    bool const mayStop = m_operation.kind == Operation::Pair ||
-                         (m_operation.kind == Operation::Composite &&
-                          (m_phase != Execute || lasting == AllocationFault::ForEver));
+    // What is to be taken back stays when there is no memory for that either.
+    bool const mayStop =
+        m_operation.kind == Operation::Pair ||
+        (m_operation.kind == Operation::Composite && lasting == AllocationFault::ForEver);
     if (mayStop) {
         watch.reset(new WatchingHandler(*project, [this](auto const&, auto const&) {
             AllocationFault::Pause const pause;

@@ -21,20 +21,21 @@ struct Operation
 {
     enum Kind
     {
-        Atomic,    ///< one primitive; fails as a whole
-        Composite,  ///< several, so that an undo may stop between two of them
-        Pair  ///< as a composite; and what was done first stays when the second has no memory
+        Atomic,     ///< one primitive; fails as a whole
+        Composite,  ///< several; when they cannot be taken back either, it stops between two
+        Pair        ///< as a composite; and what was done first stays when the second has no memory
     };
 
     std::string name;   ///< of a command, its class
     std::string strip;  ///< what it begins with; see Strip
     Kind kind = Atomic;
     bool leavesClipping = false;  ///< its copy stays on the board when it is taken back
-    bool dropsCommands = false;  ///< whatever its end, what it has undone is on no list
+    bool dropsCommands = false;   ///< whatever its end, what it has undone is on no list
     std::function<void(FaultStage&)> prepare;  ///< what else it begins with; may be empty
     std::function<boost::shared_ptr<Command>(FaultStage&)> command;
     std::function<void(FaultStage&)> run;
-    std::function<std::string(FaultStage&)> tell;  ///< what no text of the model shows; may be empty
+    std::function<std::string(FaultStage&)>
+        tell;  ///< what no text of the model shows; may be empty
 };
 
 std::ostream& operator<<(std::ostream& out, Operation const& operation);

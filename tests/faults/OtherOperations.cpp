@@ -20,10 +20,10 @@
 #include "support/Fades.h"
 #include "support/FakeFilterCatalogue.h"
 #include "support/FakeStatsLoader.h"
-#include "timeline/HitTester.h"
 #include "timeline/AbstractVisualTrack.h"
 #include "timeline/AudioMixer.h"
 #include "timeline/AudioTrack.h"
+#include "timeline/HitTester.h"
 #include "timeline/VMFile.h"
 #include "timeline/VisualMixer.h"
 
@@ -113,10 +113,12 @@ std::vector<Operation> shell()
         row("create a project", [](FaultStage&) { Project::create(30, 1); }),
         row("clone the project",
             [](FaultStage& s) { std::unique_ptr<InternalProject> copy(s.project->clone()); }),
-        row("combine the last commands", [](FaultStage& s) { s.project->combineLastCommands(); },
+        row(
+            "combine the last commands", [](FaultStage& s) { s.project->combineLastCommands(); },
             twoMoves),
         row("take a snapshot", [](FaultStage& s) { s.project->commandState(); }),
-        row("return to a snapshot",
+        row(
+            "return to a snapshot",
             [](FaultStage& s) {
                 boost::shared_ptr<CommandHistoryState const> const state =
                     boost::static_pointer_cast<CommandHistoryState const>(s.kept.front());
@@ -127,9 +129,11 @@ std::vector<Operation> shell()
                     boost::make_shared<CommandHistoryState>(s.project->commandState()));
                 s.project->execute(MoveCmd::create(s.track("V1"), s.media("V1.c"), 100));
             }),
-        row("lower the undo limit",
+        row(
+            "lower the undo limit",
             [](FaultStage& s) { s.project->commandHistory()->setUndoLimit(1); }, twoMoves),
-        row("change a source's file",
+        row(
+            "change a source's file",
             [](FaultStage& s) {
                 s.project->changeSourcesFile(recording(s), "fake:another and much longer name");
             },
@@ -145,7 +149,8 @@ std::vector<Operation> shell()
 std::vector<Operation> makers()
 {
     return {
-        row("make a source",
+        row(
+            "make a source",
             [](FaultStage& s) { Source::create(s.project, s.lock(), std::string("fake:film")); },
             record),
         row("make a clipping",
@@ -153,8 +158,7 @@ std::vector<Operation> makers()
                 Clipping(s.timeline(), Range<long long>(10, 20),
                          ConstTrackSet{s.track("A1"), s.track("V1")}, "a name that is rather long");
             }),
-        row("make a media",
-            [](FaultStage& s) { s.freshVideo('k', 3); }),
+        row("make a media", [](FaultStage& s) { s.freshVideo('k', 3); }),
         row("observe all medias",
             [](FaultStage& s) {
                 CountingObserver watcher;
@@ -176,9 +180,11 @@ std::vector<Operation> readers()
 {
     return {
         row("print the project", [](FaultStage& s) { print(*s.project); }),
-        row("print the history", [](FaultStage& s) { print(*s.project->commandHistory()); },
+        row(
+            "print the history", [](FaultStage& s) { print(*s.project->commandHistory()); },
             twoMoves),
-        row("evaluate all parameters",
+        row(
+            "evaluate all parameters",
             [](FaultStage& s) {
                 // A new one, whose parameters nobody has asked for yet.
                 boost::shared_ptr<Media> const fresh = s.freshVideo('k', 3);
