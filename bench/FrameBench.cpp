@@ -16,7 +16,9 @@
 #include "timeline/VMFile.h"
 #include "timeline/VisualMixer.h"
 
+#include <iterator>
 #include <memory>
+#include <numeric>
 #include <vector>
 
 namespace tarn {
@@ -62,7 +64,16 @@ struct FrameProject : BenchProject
     std::vector<boost::shared_ptr<AbstractVisualTrack const>> tracks;
 };
 
-void frame(benchmark::State& state)
+/// All values of a picture through its edges, by one question.
+double sumOfShown(VisualMedia const& media, double time)
+{
+    double values[VisualMedia::k_numShownValues];
+    media.shownValuesAtTime(time, values);
+    return std::accumulate(std::begin(values), std::end(values), 0.0);
+}
+
+template <class Sum>
+void askFrames(benchmark::State& state, Sum sum)
 {
     FrameProject const project;
     boost::shared_ptr<VisualMixer const> const mixer = project.visualMixer();
@@ -74,15 +85,26 @@ void frame(benchmark::State& state)
                 boost::static_pointer_cast<VisualMedia const>(
                     static_cast<Track const&>(*track).mediaAtTime(time).second);
             double const localTime = static_cast<double>(time - media->startTime());
-            benchmark::DoNotOptimize(sumOfAll(*media, localTime));
+            benchmark::DoNotOptimize(sum(*media, localTime));
             benchmark::DoNotOptimize(GraphicsUtil::calcModelMatrix(mixer, track, media, time));
         }
     }
     countOperations(state, 1);
 }
 
+void frame(benchmark::State& state)
+{
+    askFrames(state, sumOfShown);
+}
+
+/// By a host that asks each parameter object, and so has them made.
+void frameByParameter(benchmark::State& state)
+{
+    askFrames(state, sumOfAll);
+}
+
 /// Searches, reads of numbers, and two products of matrices.
-void frame_limit(benchmark::State& state)
+void limit(benchmark::State& state)
 {
     std::vector<BareTrack> const tracks(
         k_tracks, bareTrack(k_medias, BenchProject::k_length, BenchProject::k_length));
@@ -106,8 +128,20 @@ void frame_limit(benchmark::State& state)
     countOperations(state, 1);
 }
 
+void frame_limit(benchmark::State& state)
+{
+    limit(state);
+}
+
+void frameByParameter_limit(benchmark::State& state)
+{
+    limit(state);
+}
+
 BENCHMARK(frame)->Arg(k_tracks);
 BENCHMARK(frame_limit)->Arg(k_tracks);
+BENCHMARK(frameByParameter)->Arg(k_tracks);
+BENCHMARK(frameByParameter_limit)->Arg(k_tracks);
 
 }  // namespace
 }  // namespace bench

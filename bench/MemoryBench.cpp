@@ -6,6 +6,7 @@
 
 #include "commands/MoveCmd.h"
 #include "parameters/InterpolatingParam.h"
+#include "parameters/MTVector.h"
 #include "timeline/Track.h"
 #include "timeline/VMFile.h"
 
@@ -40,6 +41,17 @@ void bytesOfSound(benchmark::State& state)
 {
     BenchProject const project;
     bytesOf(state, [&project] { return project.newSound(); });
+}
+
+/// With all of its parameters asked for.
+void bytesOfPictureWithParameters(benchmark::State& state)
+{
+    BenchProject const project;
+    bytesOf(state, [&project] {
+        boost::shared_ptr<VMFile> const picture = project.newPicture();
+        picture->parameterVector();
+        return picture;
+    });
 }
 
 void bytesOfPicture_limit(benchmark::State& state)
@@ -88,6 +100,7 @@ void bytesOfUndoEntry(benchmark::State& state)
 }
 
 BENCHMARK(bytesOfPicture)->Arg(1000)->Iterations(1);
+BENCHMARK(bytesOfPictureWithParameters)->Arg(1000)->Iterations(1);
 BENCHMARK(bytesOfPicture_limit)->Arg(1000)->Iterations(1);
 BENCHMARK(bytesOfSound)->Arg(1000)->Iterations(1);
 BENCHMARK(bytesOfParameter)->Arg(1000)->Iterations(1);

@@ -100,15 +100,34 @@ void valueAtNextTime_limit(benchmark::State& state)
     countOperations(state, 1);
 }
 
-void readLock(benchmark::State& state)
+void readAgainAndAgain(benchmark::State& state, BenchProject const& project)
 {
-    BenchProject const project;
     ThreadSafe const& owner = *project.pictures();
     for (auto _ : state) {
         ReadWriteMutex::ScopedReadLock lock(owner.mutex());
         benchmark::ClobberMemory();
     }
     countOperations(state, 1);
+}
+
+void readLock(benchmark::State& state)
+{
+    BenchProject const project;
+    readAgainAndAgain(state, project);
+}
+
+void strictReadLock(benchmark::State& state)
+{
+    BenchProject const project(LockPolicy::Strict);
+    readAgainAndAgain(state, project);
+}
+
+/// Within another one, as an accessor's is below a const iterator.
+void strictReadLockWithin(benchmark::State& state)
+{
+    BenchProject const project(LockPolicy::Strict);
+    ReadWriteMutex::ScopedReadLock lock(project.pictures()->mutex());
+    readAgainAndAgain(state, project);
 }
 
 /// One plain mutex, locked and unlocked.
@@ -127,6 +146,8 @@ BENCHMARK(valueAtRandomTime_limit)->Arg(10)->Arg(100)->Arg(1000)->Arg(10000);
 BENCHMARK(valueAtNextTime)->Arg(10)->Arg(1000);
 BENCHMARK(valueAtNextTime_limit)->Arg(10)->Arg(1000);
 BENCHMARK(readLock)->Arg(1);
+BENCHMARK(strictReadLock)->Arg(1);
+BENCHMARK(strictReadLockWithin)->Arg(1);
 BENCHMARK(readLock_limit)->Arg(1);
 
 }  // namespace

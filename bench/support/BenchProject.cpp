@@ -54,7 +54,7 @@ boost::shared_ptr<MediaFileStats> movieStats()
 
 }  // namespace
 
-BenchProject::BenchProject() : m_project(Project::create(30, 1))
+BenchProject::BenchProject(LockPolicy policy) : m_project(Project::create(30, 1, policy))
 {
     m_source = Source::create(m_project, lock(), movieStats());
     execute(LoadSourceCmd::create(m_source));

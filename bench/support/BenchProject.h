@@ -2,6 +2,7 @@
 
 #include "clipbin/ClipBinFwd.h"
 #include "commands/CommandsFwd.h"
+#include "project/LockPolicy.h"
 #include "project/ProjectFwd.h"
 #include "timeline/TimelineFwd.h"
 
@@ -21,7 +22,7 @@ public:
     /// How long a media is, edit units.
     static long long const k_length = 10;
 
-    BenchProject();
+    explicit BenchProject(LockPolicy policy = LockPolicy::Counted);
 
     boost::shared_ptr<Project> const& project() const { return m_project; }
     boost::weak_ptr<ThreadSafe const> lock() const;

@@ -1,6 +1,6 @@
 #include "FramePicture.h"
 
-#include "Svg.h"
+#include <drawing/Svg.h>
 
 #include <TarnMediaLib/datatypes/GraphicsUtil.h>
 #include <TarnMediaLib/datatypes/Quad.h>
@@ -100,7 +100,7 @@ private:
     long long m_time;
     Plane m_plane;
     tarn::Rect<int> m_viewport;
-    Svg m_svg;
+    tarn::drawing::Svg m_svg;
 };
 
 }  // namespace

@@ -8,9 +8,9 @@
 
 #include "BinTable.h"
 #include "FramePicture.h"
-#include "TimelinePicture.h"
 
 #include <TarnMediaLib/TarnMediaLib.h>
+#include <drawing/TimelinePicture.h>
 
 #include <fstream>
 #include <iostream>
@@ -344,7 +344,7 @@ void writeFiles(Host const& host)
 {
     std::ofstream xml("out/project.xml");
     host.project->toXML(xml);
-    drawTimeline(*host.project->timeline(), "out/timeline.svg");
+    tarn::drawing::drawTimeline(*host.project->timeline(), "out/timeline.svg");
     say("Wrote out/project.xml, out/timeline.svg and out/frame.svg");
 }
 

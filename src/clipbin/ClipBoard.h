@@ -23,6 +23,7 @@ public:
 
     explicit ClipBoard(boost::weak_ptr<ThreadSafe const> const& project);
 
+    /// How many clippings there are.
     std::size_t size() const;
     /// A copy, so that no lock outlives the call.
     ClippingList clippings() const;

@@ -1,6 +1,7 @@
 #include "clipbin/Clipping.h"
 
 #include "datatypes/SaturatedArithmetic.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/DanglingWeakPtrException.h"
 #include "exceptions/ValueException.h"
 #include "parameters/Attribute.h"
@@ -175,7 +176,7 @@ std::string Clipping::description() const
 
 void Clipping::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Clipping";
+    XmlText(options) << "Clipping";
 }
 
 void Clipping::xmlAttributes(XMLable::Options&) const {}

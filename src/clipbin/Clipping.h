@@ -42,8 +42,10 @@ public:
 
     /// The name that the copy was given.
     std::string name() const;
+    /// The name as an attribute, whose observers hear of a change.
     boost::shared_ptr<Attribute<std::string>> nameAttribute() { return m_name; }
     boost::shared_ptr<Attribute<std::string> const> nameAttribute() const { return m_name; }
+    /// The private timeline, owned by the clipping.
     boost::shared_ptr<Timeline> timeline() { return m_timeline; }
     boost::shared_ptr<Timeline const> timeline() const { return m_timeline; }
 

@@ -66,25 +66,40 @@ public:
     MediaFileStats(MediaFileStats const&) = delete;
     MediaFileStats& operator=(MediaFileStats const&) = delete;
 
+    /// The file that was read.
     std::string filename() const;
+    /// Changes the name alone; nothing is read again.
     void setFilename(std::string const& filename);
     /// The movie's natural size, at (0, 0).
     Rect<int> rect() const;
+    /// In pixels.
     void setRect(Rect<int> const& rect);
+    /// Pictures and sounds together; tracks of other kinds are not counted.
     unsigned int numTracks() const;
 
+    /// Appends a track.
     void addTrackStats(TrackStats const& stats);
+    /// The track itself; a reference into these statistics.
     TrackStats const& trackStats(unsigned int track) const;
     TrackStats& trackStats(unsigned int track);
 
+    /// In units of rangeEditRate().
     Range<long long> trackRange(unsigned int track) const;
+    /// The units a second of trackRange().
     boost::rational<unsigned long> rangeEditRate(unsigned int track) const;
+    /// Picture, still or sound.
     TrackType trackType(unsigned int track) const;
+    /// In pixels, on the movie's plane; empty for a sound.
     Rect<int> trackRect(unsigned int track) const;
+    /// Samples a second; sound only.
     boost::rational<unsigned long> sampleRate(unsigned int track) const;
+    /// Bits a sample; 0 for lossy compression. Sound only.
     std::uint32_t bitDepth(unsigned int track) const;
+    /// Sound only.
     std::uint32_t numChannels(unsigned int track) const;
+    /// The component file of a bundle, else empty.
     std::string filename(unsigned int track) const;
+    /// Paths of the track's side files, in the order in which they were added.
     std::vector<std::string> metaData(unsigned int track) const;
 
     /// The number that a track has inside its own component file. Reads that file for a bundle; for

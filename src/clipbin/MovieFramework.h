@@ -10,7 +10,8 @@
 namespace tarn {
 
 /// All that the library asks of a platform's media framework. QTStatsLoader keeps the logic and the
-/// messages; what stands behind this interface only answers.
+/// messages; what stands behind this interface only answers. Called on the thread that loads, under
+/// the write lock when a command does: it must not wait for a thread that wants to read.
 class TARN_API MovieFramework
 {
 public:

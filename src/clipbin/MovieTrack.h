@@ -31,6 +31,7 @@ public:
 
     virtual ~MovieTrack();
 
+    /// Where the track lies in the movie.
     virtual TimeRange timeRange() const = 0;
     /// The size that is meant to be seen, whatever the kind of the track.
     virtual MovieSize cleanApertureSize() const = 0;

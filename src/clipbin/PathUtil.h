@@ -6,7 +6,7 @@
 
 namespace tarn {
 
-/// Arithmetic on the text of paths. Nothing is looked up on disk.
+/// Arithmetic on the text of paths. Nothing is looked up on disk. No lock, and nothing is thrown.
 namespace PathUtil {
 
 /// Whether the path starts at a root directory.

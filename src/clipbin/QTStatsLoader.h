@@ -13,6 +13,7 @@
 namespace tarn {
 
 /// The loader that every process has: reads movies, sounds and pictures through a movie framework.
+/// Has no lock and no state but the framework.
 class TARN_API QTStatsLoader : public StatsLoader
 {
 public:

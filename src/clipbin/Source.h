@@ -64,10 +64,12 @@ public:
     Range<long long> timeRange() const;
     /// Owned by the source.
     MediaFileStats const* mediaFileStats() const;
+    /// With the prototype medias, one a track; owned by the source.
     boost::shared_ptr<Timeline> timeline();
     boost::shared_ptr<Timeline const> timeline() const;
     /// @throws IndexException
     Rect<float> trackRect(unsigned int track) const;
+    /// Always true: a file that cannot be read makes no source.
     bool isOnline() const;
 
     /// Walks the private medias by track, the visual mixer's first. T is Media const, VisualMedia
@@ -78,7 +80,8 @@ public:
     Iterator<T> mediaEnd() const;
 
     /// Replaces the file, and with it the names of component and side files that contain the old
-    /// name. Everything else that was read from the old file stays. What throws changes nothing.
+    /// name. Everything else that was read from the old file stays. What throws has changed
+    /// nothing.
     /// @throws IOException when the new file cannot be read
     /// @throws TarnMediaLibException "attempting to replace source's file with an incompatable
     ///         file" unless the number of tracks is the same, and kind and length of the first

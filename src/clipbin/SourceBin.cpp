@@ -3,6 +3,7 @@
 #include "clipbin/MediaFileStats.h"
 #include "clipbin/Source.h"
 #include "clipbin/SourceBinSentry.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/DanglingWeakPtrException.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "exceptions/ValueException.h"
@@ -21,8 +22,10 @@ bool isSentryAcceptable(std::list<boost::shared_ptr<SourceBinSentry>> const& sen
 {
     for (boost::shared_ptr<SourceBinSentry> const& sentry : sentries) {
         if (!sentry->isAcceptable(stats)) {
-            std::cout << "SourceBinSentry(" << sentry->description()
-                      << ") rejected file:" << stats->filename() << std::endl;
+            // First, as it may throw: half a line would be left.
+            std::string const name = sentry->description();
+            std::cout << "SourceBinSentry(" << name << ") rejected file:" << stats->filename()
+                      << std::endl;
             return false;
         }
     }
@@ -133,7 +136,7 @@ bool SourceBin::containsSource(boost::shared_ptr<Source const> const& source) co
 
 void SourceBin::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "SourceBin";
+    XmlText(options) << "SourceBin";
 }
 
 void SourceBin::xmlAttributes(XMLable::Options&) const {}

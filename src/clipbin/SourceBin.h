@@ -53,7 +53,9 @@ public:
 
     /// Empty when there is none. Names are compared byte for byte.
     boost::shared_ptr<Source> sourceForFile(std::string const& file) const;
+    /// Whether sourceForFile() finds one.
     bool isFileLoaded(std::string const& file) const;
+    /// Whether this very source is here.
     bool containsSource(boost::shared_ptr<Source const> const& source) const;
 
     void xmlName(XMLable::Options& options) const override;

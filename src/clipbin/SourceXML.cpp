@@ -3,6 +3,7 @@
 #include "clipbin/MediaFileStats.h"
 #include "clipbin/PathUtil.h"
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "project/ReadWriteMutex.h"
 
 #include <boost/date_time/posix_time/conversion.hpp>
@@ -61,7 +62,7 @@ void writeTrack(std::ostream& out, MediaFileStats::TrackStats const& track)
 
 void Source::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Source";
+    XmlText(options) << "Source";
 }
 
 void Source::xmlAttributes(XMLable::Options& options) const
@@ -70,9 +71,9 @@ void Source::xmlAttributes(XMLable::Options& options) const
     if (!m_stats)
         return;
     std::string const file = m_stats->filename();
-    *options.stream << "src=\"" << xml_representation(convertToRelativeIfNecessary(options, file))
-                    << "\" lastMod=\"" << boost::posix_time::to_iso_string(calcLastWriteTime(file))
-                    << "\" rect=\"" << m_stats->rect() << "\"";
+    XmlText(options) << "src=\"" << xml_representation(convertToRelativeIfNecessary(options, file))
+                     << "\" lastMod=\"" << boost::posix_time::to_iso_string(calcLastWriteTime(file))
+                     << "\" rect=\"" << m_stats->rect() << "\"";
 }
 
 void Source::xmlBody(XMLable::Options& options, int indent) const
@@ -81,7 +82,7 @@ void Source::xmlBody(XMLable::Options& options, int indent) const
     if (!m_stats)
         return;
     for (unsigned int track = 0; track < m_stats->numTracks(); ++track) {
-        *options.stream << genIndent(indent);
+        XmlText(options).indent(indent);
         writeTrack(*options.stream, m_stats->trackStats(track));
     }
 }

@@ -1,6 +1,7 @@
 #include "commands/AddEdgeModCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "edgemods/AuxEdgeModInfo.h"
 #include "edgemods/EdgeModFunc.h"
 #include "parameters/Parameter.h"
@@ -39,6 +40,7 @@ AddEdgeModCmd::AddEdgeModCmd(boost::shared_ptr<Media const> const& media,
 
 bool AddEdgeModCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_media, m_edgeMod.parameter());
     std::unique_ptr<EdgeModFunc> const func(m_edgeMod.func().clone());
     func->setAuxInfo(auxInfoFor(m_media, handler));
     m_edgeMod = EdgeModification(m_edgeMod.parameter(), *func);

@@ -1,6 +1,8 @@
 #include "commands/AddMediaCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/OnePiece.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -18,7 +20,7 @@ boost::shared_ptr<AddMediaCmd> AddMediaCmd::create(boost::shared_ptr<Track const
                                                    boost::shared_ptr<Media const> const& media,
                                                    long long time)
 {
-    return boost::shared_ptr<AddMediaCmd>(new AddMediaCmd(track, media, time));
+    return OnePiece<AddMediaCmd>::make(track, media, time);
 }
 
 AddMediaCmd* AddMediaCmd::clone() const
@@ -28,6 +30,7 @@ AddMediaCmd* AddMediaCmd::clone() const
 
 bool AddMediaCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_media);
     m_oldStart = m_media->timeRange().start;
     handler->addMedia(m_track, m_media, m_time);
     return true;

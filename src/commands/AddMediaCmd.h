@@ -31,6 +31,8 @@ public:
     void xmlAttributes(XMLable::Options& options) const override;
 
 private:
+    friend class OnePiece<AddMediaCmd>;
+
     AddMediaCmd(boost::shared_ptr<Track const> const& track,
                 boost::shared_ptr<Media const> const& media, long long time);
 

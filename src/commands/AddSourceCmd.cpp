@@ -3,6 +3,7 @@
 #include "clipbin/Source.h"
 #include "commands/AddTimelinesTracksCmd.h"
 #include "commands/LinkCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "datatypes/Range.h"
 #include "timeline/AbstractVisualTrack.h"
@@ -17,7 +18,7 @@
 namespace tarn {
 
 AddSourceCmd::AddSourceCmd(boost::shared_ptr<Source const> const& source, long long time)
-    : TrackMapCommand(source->timeline(), time), m_source(source)
+    : TrackMapCommand(source ? source->timeline() : nullptr, time), m_source(source)
 {}
 
 boost::shared_ptr<AddSourceCmd> AddSourceCmd::create(boost::shared_ptr<Source const> const& source,
@@ -33,6 +34,7 @@ AddSourceCmd* AddSourceCmd::clone() const
 
 void AddSourceCmd::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_source);
     addMappedTracks();
     linkAddedMedias();
 }

@@ -1,6 +1,7 @@
 #include "commands/AddTimelinesTracksCmd.h"
 
 #include "commands/AddMediaCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "datatypes/Cloneable.h"
 #include "datatypes/SaturatedArithmetic.h"
@@ -76,6 +77,9 @@ AddTimelinesTracksCmd<T>* AddTimelinesTracksCmd<T>::clone() const
 template <class T>
 void AddTimelinesTracksCmd<T>::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_timeline);
+    for (TrackMap const& trackMap : m_trackMaps)
+        requireObjects(trackMap.first, trackMap.second);
     m_addedMedias.clear();
     for (TrackMap const& trackMap : m_trackMaps)
         addTrackMedias(trackMap);

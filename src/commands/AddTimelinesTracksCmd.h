@@ -29,6 +29,7 @@ public:
     /// Mapping a track to a second destination gives clones on both.
     void addTrackMap(boost::shared_ptr<T const> const& fromTrack,
                      boost::shared_ptr<T const> const& destTrack);
+    /// Whether that track has a destination.
     bool hasMapping(boost::shared_ptr<T const> const& fromTrack) const;
     /// The first destination given; empty without one.
     boost::shared_ptr<T const> mappedTrack(boost::shared_ptr<T const> const& fromTrack) const;

@@ -2,6 +2,7 @@
 
 #include "commands/AddMediaCmd.h"
 #include "commands/CloneCmd.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -54,6 +55,7 @@ void CloneAddMediasCmd::addMapping(boost::shared_ptr<Track const> const& track,
 
 void CloneAddMediasCmd::executeCommands(CommandHandler const*)
 {
+    requireMappings();
     m_cloneMap.clear();
     boost::shared_ptr<Media const> const first = findFirstInMappings(m_mappings);
     for (auto const& mapping : m_mappings) {
@@ -64,6 +66,14 @@ void CloneAddMediasCmd::executeCommands(CommandHandler const*)
             MultiCommand::execute(
                 AddMediaCmd::create(mapping.first, clone, saturatedSum(distance, m_time)));
         }
+    }
+}
+
+void CloneAddMediasCmd::requireMappings() const
+{
+    for (auto const& mapping : m_mappings) {
+        requireObjects(mapping.first);
+        requireEachObject(mapping.second);
     }
 }
 

@@ -51,6 +51,8 @@ protected:
     explicit CloneAddMediasCmd(long long time);
 
     void executeCommands(CommandHandler const* handler) override;
+    /// @throws TarnMediaLibException when a track or media of the mappings is empty
+    void requireMappings() const;
 
 private:
     boost::shared_ptr<Media> cloneMedia(boost::shared_ptr<Media const> const& media);

@@ -1,5 +1,6 @@
 #include "commands/CloneCmd.h"
 
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "datatypes/Cloneable.h"
 #include "timeline/Media.h"
@@ -27,6 +28,7 @@ CloneCmd<T>* CloneCmd<T>::clone() const
 template <class T>
 bool CloneCmd<T>::execute(CommandHandler*)
 {
+    requireObjects(m_cloneable);
     if (!m_clone)
         m_clone = sharedClone<T>(m_cloneable);
     return true;

@@ -22,6 +22,7 @@ CloneInsertMediasCmd* CloneInsertMediasCmd::clone() const
 
 void CloneInsertMediasCmd::executeCommands(CommandHandler const* handler)
 {
+    requireMappings();
     ConstTrackSet tracks;
     mappedTracks(&tracks);
     boost::shared_ptr<SplittingRippleMoveCmd> const ripple =

@@ -32,6 +32,9 @@ public:
     /// @return false when there was nothing to do; the command is then not recorded
     /// @throws whatever refuses the edit; nothing has changed then
     virtual bool execute(CommandHandler* handler) = 0;
+    /// Takes back what execute() did. Called after it only, and with the model as it left it.
+    /// @return not looked at
+    /// @throws what refuses; the command is then lost from the history
     virtual bool unexecute(CommandHandler* handler) = 0;
     /// Executes, unless a class must differ.
     virtual bool reexecute(CommandHandler* handler);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/CommandHistoryState.h"
+#include "commands/CommandSequence.h"
 #include "commands/CommandsFwd.h"
 #include "datatypes/Cloneable.h"
 #include "datatypes/Export.h"
@@ -11,7 +12,6 @@
 #include <boost/shared_ptr.hpp>
 
 #include <cstddef>
-#include <list>
 #include <string>
 
 namespace tarn {
@@ -20,6 +20,10 @@ namespace tarn {
 ///
 /// Has no lock: a project runs it under its write lock. A command that throws while it is undone or
 /// redone is on neither list afterwards.
+///
+/// While a command runs, whoever it calls (a host's handler, a sentry, a loader) may only read
+/// here: every operation that changes a list throws TarnMediaLibException "a command is running"
+/// and changes nothing. Observers are called when the command is over, and may edit.
 class TARN_API CommandHistory : public TarnObject, public Cloneable, public Subject, public XMLable
 {
 public:
@@ -32,6 +36,7 @@ public:
     /// With a copy of every command, and without a handler.
     CommandHistory* clone() const override;
 
+    /// What commands are given from now on; not owned.
     void setCommandHandler(CommandHandler* handler) { m_handler = handler; }
 
     /// Runs a command and records it, which drops what could be redone.
@@ -44,7 +49,9 @@ public:
     /// Does not apply the undo limit.
     /// @throws TarnMediaLibException "no commands to redo", and what the command throws
     void redo();
+    /// Undoes until nothing is left. @throws what undo() throws
     void undoAll();
+    /// Redoes until nothing is left. @throws what redo() throws
     void redoAll();
     /// Drops what could be redone; does not notify.
     void dropRedoCommands();
@@ -53,6 +60,7 @@ public:
     /// two it does nothing. Does not notify; unchanged when it throws.
     void combineLastCommands();
 
+    /// A snapshot of now.
     CommandHistoryState state() const;
     /// Undoes and drops what was executed since the snapshot.
     /// @throws ValueException<CommandHistoryState> "State cannot be restored, cannot find undo
@@ -62,11 +70,14 @@ public:
 
     /// How many commands can be undone at most; negative, as at first, for no limit.
     int undoLimit() const { return m_undoLimit; }
-    /// Drops the oldest at once that are too many, without undoing them.
+    /// Drops the oldest at once that are too many, without undoing them. A host with other threads
+    /// holds the project's write lock meanwhile: what is dropped may be the last owner of objects.
     void setUndoLimit(int limit);
 
-    std::size_t numUndoCommands() const { return m_undoCommands.size(); }
-    std::size_t numRedoCommands() const { return m_redoCommands.size(); }
+    /// How many steps undo() can take.
+    std::size_t numUndoCommands() const { return m_commands.numUndo(); }
+    /// How many steps redo() can take.
+    std::size_t numRedoCommands() const { return m_commands.numRedo(); }
 
     void xmlName(XMLable::Options& options) const override;
     void xmlAttributes(XMLable::Options& options) const override;
@@ -75,25 +86,22 @@ public:
     void xmlOfUndoCommands(XMLable::Options& options, int indent) const;
 
 private:
-    using CommandList = std::list<boost::shared_ptr<Command>>;
+    class Run;
 
     CommandHistory(CommandHistory const& other);
     CommandHistory& operator=(CommandHistory const&) = delete;
 
     boost::shared_ptr<Command const> getCurrentUndoStackTop() const;
     void removeExcessCommands();
-    /// @return false when the list does not hold `top`; nothing has changed then
-    static bool unrollStack(CommandList& commands, boost::shared_ptr<Command const> const& top,
-                            CommandHandler* handler);
-    static void unrollEverything(CommandList& commands, CommandHandler* handler);
-    static void unrollPortion(CommandList& commands, boost::shared_ptr<Command const> const& top,
-                              CommandHandler* handler);
+    bool canBeUndone(boost::shared_ptr<Command const> const& command) const;
+    bool canBeRedone(boost::shared_ptr<Command const> const& command) const;
+    /// @return false when neither list holds `top`; nothing has changed then
+    bool unrollTo(boost::shared_ptr<Command const> const& top);
 
     CommandHandler* m_handler;
-    // The newest last.
-    CommandList m_undoCommands;
-    CommandList m_redoCommands;
+    CommandSequence m_commands;
     int m_undoLimit;
+    bool m_isRunning;
 };
 
 }  // namespace tarn

@@ -1,5 +1,6 @@
 #include "commands/CommandPair.h"
 
+#include "commands/RequireObjects.h"
 #include "exceptions/TarnMediaLibException.h"
 
 #include <ostream>
@@ -24,6 +25,7 @@ CommandPair* CommandPair::clone() const
 
 bool CommandPair::execute(CommandHandler* handler)
 {
+    requireObjects(m_first, m_second);
     m_first->execute(handler);
     try {
         m_second->execute(handler);

@@ -15,5 +15,7 @@ class MultiCommand;
 
 template <class T>
 class AddTimelinesTracksCmd;
+template <class T>
+class OnePiece;
 
 }  // namespace tarn

@@ -2,6 +2,7 @@
 
 #include "clipbin/Clipping.h"
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "timeline/Timeline.h"
 #include "timeline/Track.h"
@@ -36,6 +37,8 @@ CopyRangeClippingCmd* CopyRangeClippingCmd::clone() const
 
 bool CopyRangeClippingCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_timeline);
+    requireEachObject(m_tracks);
     if (m_tracks.empty())
         throw TarnMediaLibException("can't perform a copy range clipping without tracks");
 

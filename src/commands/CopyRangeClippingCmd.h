@@ -28,6 +28,7 @@ public:
         boost::shared_ptr<Timeline const> const& timeline, Range<long long> const& range,
         std::string const& name);
 
+    /// Names a track to work on; before execution.
     void addTrack(boost::shared_ptr<Track const> const& track);
 
     CopyRangeClippingCmd* clone() const override;

@@ -2,6 +2,7 @@
 
 #include "clipbin/Clipping.h"
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "timeline/Media.h"
 #include "timeline/Timeline.h"
 
@@ -32,6 +33,8 @@ CopySelectClippingCmd* CopySelectClippingCmd::clone() const
 
 bool CopySelectClippingCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_timeline);
+    requireEachObject(m_medias);
     m_clipping = boost::make_shared<Clipping>(m_timeline, m_medias, m_name);
     handler->addClipping(m_clipping);
     return true;

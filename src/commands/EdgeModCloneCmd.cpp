@@ -2,6 +2,7 @@
 
 #include "commands/CommandHandler.h"
 #include "commands/EdgeModCommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "parameters/Parameter.h"
 #include "timeline/Media.h"
 
@@ -27,6 +28,7 @@ EdgeModCloneCmd* EdgeModCloneCmd::clone() const
 
 bool EdgeModCloneCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_media);
     EdgeModCommandHandler* const edgeHandler = handler->edgeModCommandHandler();
     m_rightLength = m_media->rightEdgeModificationLength();
     if (!m_clone)

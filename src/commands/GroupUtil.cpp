@@ -10,6 +10,10 @@ namespace GroupUtil {
 ConstMediaVector linkedMedias(boost::shared_ptr<Media const> const& media)
 {
     ConstMediaVector linked;
+    // Commands ask, under their lock: most medias have no links, and then need no iterators, each
+    // of which takes a lock.
+    if (!media->mayBeLinked())
+        return linked;
     for (auto it = media->linkBegin(), end = media->linkEnd(); it != end; ++it) {
         boost::shared_ptr<Media const> const other = it->lock();
         if (!other)
@@ -29,7 +33,7 @@ ConstMediaVector group(boost::shared_ptr<Media const> const& media)
 
 bool hasLinks(boost::shared_ptr<Media const> const& media)
 {
-    return media->linkBegin() != media->linkEnd();
+    return media->mayBeLinked() && media->linkBegin() != media->linkEnd();
 }
 
 boost::shared_ptr<Track const> parentTrack(boost::shared_ptr<Media const> const& media)

@@ -2,6 +2,7 @@
 
 #include "clipbin/Clipping.h"
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "commands/RippleUtil.h"
 #include "commands/SplittingRippleMoveCmd.h"
 #include "commands/XmlAttributes.h"
@@ -27,7 +28,9 @@ void appendTracks(boost::shared_ptr<Mixer const> const& mixer, RippleUtil::Const
 }  // namespace
 
 InsertClippingCmd::InsertClippingCmd(boost::shared_ptr<Clipping> const& clipping, long long time)
-    : TrackMapCommand(clipping->timeline(), time), m_clipping(clipping), m_time(time)
+    : TrackMapCommand(clipping ? clipping->timeline() : nullptr, time)
+    , m_clipping(clipping)
+    , m_time(time)
 {}
 
 boost::shared_ptr<InsertClippingCmd> InsertClippingCmd::create(
@@ -43,6 +46,7 @@ InsertClippingCmd* InsertClippingCmd::clone() const
 
 void InsertClippingCmd::executeCommands(CommandHandler const* handler)
 {
+    requireObjects(m_clipping);
     RippleUtil::ConstTrackVector tracks;
     appendTracks(handler->visualMixer(), &tracks);
     appendTracks(handler->audioMixer(), &tracks);

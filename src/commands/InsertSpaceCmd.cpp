@@ -2,6 +2,7 @@
 
 #include "commands/GroupUtil.h"
 #include "commands/MoveCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/RippleMoveCmd.h"
 #include "commands/RippleUtil.h"
 #include "commands/SplittingRippleMoveCmd.h"
@@ -36,6 +37,7 @@ InsertSpaceCmd* InsertSpaceCmd::clone() const
 
 void InsertSpaceCmd::executeCommands(CommandHandler const*)
 {
+    requireEachObject(m_tracks);
     if (m_tracks.empty() || m_size <= 0)
         return;
 

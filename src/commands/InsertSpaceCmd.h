@@ -25,6 +25,7 @@ public:
     /// Edit units on the tracks' clock.
     static boost::shared_ptr<InsertSpaceCmd> create(long long location, long long size);
 
+    /// Names a track to work on; before execution.
     void addTrack(boost::shared_ptr<Track const> const& track);
 
     long long location() const { return m_location; }

@@ -4,6 +4,7 @@
 #include "commands/EdgeModCloneCmd.h"
 #include "commands/GroupUtil.h"
 #include "commands/LinkCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/TrimEndCmd.h"
 #include "commands/XmlAttributes.h"
 #include "exceptions/LinkException.h"
@@ -53,6 +54,7 @@ void IntraMediaCutCmd::executeCommands(CommandHandler const*)
 
 void IntraMediaCutCmd::checkValidIntraMediaCut()
 {
+    requireObjects(m_track);
     m_media = m_track->mediaAtTime(m_range.start).second;
     if (!m_media)
         throw ValueException<Range<long long>>("intramedia cut range doesn't start in a media",

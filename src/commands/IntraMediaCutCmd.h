@@ -28,7 +28,8 @@ public:
     /// @throws ValueException<Range<long long>> on execution, with the range, when it does not
     /// begin and end inside one and the same media; nothing has changed then
     /// @throws LinkException on execution when a linked media has another track range
-    /// @throws DanglingWeakPtrException<Media const> or <Track const> on execution for a dead link
+    /// @throws DanglingWeakPtrException<Media const> or `<Track const>` on execution for a dead
+    /// link
     static boost::shared_ptr<IntraMediaCutCmd> create(boost::shared_ptr<Track const> const& track,
                                                       Range<long long> const& range);
 

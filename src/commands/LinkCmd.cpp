@@ -2,6 +2,7 @@
 
 #include "commands/AddLinkCmd.h"
 #include "commands/GroupUtil.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "timeline/Media.h"
 
@@ -27,6 +28,7 @@ LinkCmd* LinkCmd::clone() const
 
 void LinkCmd::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_media1, m_media2);
     ConstMediaVector const group1 = GroupUtil::group(m_media1);
     ConstMediaVector const group2 = GroupUtil::group(m_media2);
     for (boost::shared_ptr<Media const> const& a : group1) {

@@ -2,6 +2,7 @@
 
 #include "clipbin/Source.h"
 #include "commands/LoadSourceCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/SetAttributeValueCmd.h"
 #include "datatypes/ScreenMetaData.h"
 #include "exceptions/TarnMediaLibException.h"
@@ -79,6 +80,7 @@ boost::shared_ptr<Source const> LoadScreenSourceCmd::source() const
 
 void LoadScreenSourceCmd::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_metaData);
     MultiCommand::execute(m_load);
     addMetaData(m_load->source());
 }

@@ -1,6 +1,8 @@
 #include "commands/MoveCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/OnePiece.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -18,7 +20,7 @@ boost::shared_ptr<MoveCmd> MoveCmd::create(boost::shared_ptr<Track const> const&
                                            boost::shared_ptr<Media const> const& media,
                                            long long offset)
 {
-    return boost::shared_ptr<MoveCmd>(new MoveCmd(track, media, offset));
+    return OnePiece<MoveCmd>::make(track, media, offset);
 }
 
 MoveCmd* MoveCmd::clone() const
@@ -28,6 +30,7 @@ MoveCmd* MoveCmd::clone() const
 
 bool MoveCmd::execute(CommandHandler* handler)
 {
+    requireObjects(media());
     handler->move(track(), media(), offset());
     return true;
 }

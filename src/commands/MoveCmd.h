@@ -27,6 +27,8 @@ public:
     void xmlName(XMLable::Options& options) const override;
 
 private:
+    friend class OnePiece<MoveCmd>;
+
     MoveCmd(boost::shared_ptr<Track const> const& track,
             boost::shared_ptr<Media const> const& media, long long offset);
 };

@@ -1,6 +1,7 @@
 #include "commands/MoveEdgeModCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "edgemods/EdgeModifiable.h"
 
@@ -13,6 +14,7 @@ MoveEdgeModCmd::MoveEdgeModCmd(boost::shared_ptr<EdgeModifiable const> const& ed
 
 bool MoveEdgeModCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_edgeModifiable);
     m_oldLength = edgeLength(*m_edgeModifiable);
     return reexecute(handler);
 }

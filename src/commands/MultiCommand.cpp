@@ -2,12 +2,19 @@
 
 #include "commands/CommandHistory.h"
 
+#include <boost/make_shared.hpp>
+
 namespace tarn {
 
-MultiCommand::MultiCommand() : m_history(new CommandHistory(nullptr)) {}
+MultiCommand::MultiCommand()
+    : m_history(boost::make_shared<CommandHistory>(nullptr)), m_silence(m_history.get())
+{}
 
 MultiCommand::MultiCommand(MultiCommand const& other)
-    : XMLIdentified(other), Command(other), m_history(new CommandHistory(nullptr))
+    : XMLIdentified(other)
+    , Command(other)
+    , m_history(boost::make_shared<CommandHistory>(nullptr))
+    , m_silence(m_history.get())
 {}
 
 bool MultiCommand::execute(CommandHandler* handler)

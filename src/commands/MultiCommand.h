@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/Command.h"
+#include "datatypes/Subject.h"
 
 #include <boost/shared_ptr.hpp>
 
@@ -40,6 +41,8 @@ protected:
 
 private:
     boost::shared_ptr<CommandHistory> m_history;
+    // Nobody else knows the history, so nobody could observe it.
+    Subject::NotifyDisabler m_silence;
 };
 
 }  // namespace tarn

@@ -1,6 +1,7 @@
 #include "commands/PutClippingCmd.h"
 
 #include "clipbin/Clipping.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "timeline/Timeline.h"
 
@@ -9,7 +10,9 @@
 namespace tarn {
 
 PutClippingCmd::PutClippingCmd(boost::shared_ptr<Clipping> const& clipping, long long time)
-    : TrackMapCommand(clipping->timeline(), time), m_clipping(clipping), m_time(time)
+    : TrackMapCommand(clipping ? clipping->timeline() : nullptr, time)
+    , m_clipping(clipping)
+    , m_time(time)
 {}
 
 boost::shared_ptr<PutClippingCmd> PutClippingCmd::create(
@@ -25,6 +28,7 @@ PutClippingCmd* PutClippingCmd::clone() const
 
 void PutClippingCmd::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_clipping);
     addMappedTracks();
 }
 

@@ -1,6 +1,7 @@
 #include "commands/RemoveEdgeModCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "edgemods/EdgeModifiable.h"
 #include "parameters/Parameter.h"
 
@@ -13,6 +14,7 @@ RemoveEdgeModCmd::RemoveEdgeModCmd(boost::shared_ptr<EdgeModifiable const> const
 
 bool RemoveEdgeModCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_edgeModifiable);
     m_removedEdgeMod =
         removeEdgeMod(handler->edgeModCommandHandler(), m_edgeModifiable, m_parameter);
     return true;

@@ -1,6 +1,7 @@
 #include "commands/RemoveRangeMediaCmd.h"
 
 #include "commands/RemoveMediaCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/SplitCmd.h"
 #include "commands/XmlAttributes.h"
 #include "timeline/Media.h"
@@ -35,6 +36,8 @@ RemoveRangeMediaCmd* RemoveRangeMediaCmd::clone() const
 
 void RemoveRangeMediaCmd::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_timeline);
+    requireEachObject(m_tracks);
     for (boost::shared_ptr<Track const> const& track : m_tracks) {
         boost::shared_ptr<TrackSubSection<Media>> const subSection = track->subSection(m_range);
         for (TrackSubSection<Media>::MediaRange const& part : *subSection)

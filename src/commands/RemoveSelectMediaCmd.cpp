@@ -1,6 +1,7 @@
 #include "commands/RemoveSelectMediaCmd.h"
 
 #include "commands/RemoveMediaCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "datatypes/LinkUtil.h"
 #include "timeline/Media.h"
@@ -32,6 +33,8 @@ RemoveSelectMediaCmd* RemoveSelectMediaCmd::clone() const
 
 void RemoveSelectMediaCmd::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_timeline);
+    requireEachObject(m_medias);
     ConstMediaSet oneOfEachGroup;
     LinkUtil::minimumSetOfLinkedMedia(ConstMediaSet(m_medias.begin(), m_medias.end()),
                                       &oneOfEachGroup);

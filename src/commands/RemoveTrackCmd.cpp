@@ -1,6 +1,7 @@
 #include "commands/RemoveTrackCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "timeline/AudioMixer.h"
 #include "timeline/AudioTrack.h"
 #include "timeline/ConstTrackDispatcher.h"
@@ -128,6 +129,7 @@ RemoveTrackCmd<T>* RemoveTrackCmd<T>::clone() const
 template <class T>
 bool RemoveTrackCmd<T>::execute(CommandHandler* handler)
 {
+    requireObjects(m_track);
     remove(handler, m_track, &m_removed);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "commands/RippleMoveCmd.h"
 
 #include "commands/MoveCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/RippleUtil.h"
 #include "commands/StackOrQueue.h"
 #include "commands/XmlAttributes.h"
@@ -30,6 +31,7 @@ RippleMoveCmd* RippleMoveCmd::clone() const
 
 void RippleMoveCmd::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_track, m_firstMedia);
     if (!m_track->hasMedia(m_firstMedia))
         return;
 

@@ -1,5 +1,6 @@
 #include "commands/SetAttributeValueCmd.h"
 
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "datatypes/ScreenMetaData.h"
 #include "parameters/Attribute.h"
@@ -31,6 +32,7 @@ SetAttributeValueCmd<T>* SetAttributeValueCmd<T>::clone() const
 template <class T>
 bool SetAttributeValueCmd<T>::execute(CommandHandler*)
 {
+    requireObjects(m_attribute);
     m_oldValue = m_attribute->value();
     m_attribute->setValue(m_newValue);
     return true;

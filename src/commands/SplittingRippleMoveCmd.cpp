@@ -2,6 +2,7 @@
 
 #include "commands/GroupUtil.h"
 #include "commands/MoveCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/RippleMoveCmd.h"
 #include "commands/RippleUtil.h"
 #include "commands/SplitCmd.h"
@@ -39,6 +40,7 @@ SplittingRippleMoveCmd* SplittingRippleMoveCmd::clone() const
 
 void SplittingRippleMoveCmd::executeCommands(CommandHandler const*)
 {
+    requireEachObject(m_tracks);
     if (m_tracks.empty())
         throw TarnMediaLibException("can't perform a splitting ripple move without tracks");
 

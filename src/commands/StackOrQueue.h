@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <deque>
 #include <memory>
+#include <utility>
 
 namespace tarn {
 
@@ -19,6 +20,7 @@ class PushFunc
 {
 public:
     virtual ~PushFunc() = default;
+    /// Puts an element where it belongs.
     virtual void push(std::deque<T>& elements, T const& element) const = 0;
 };
 
@@ -51,11 +53,12 @@ class StackOrQueue
 public:
     explicit StackOrQueue(StackOrQueueEnum order) : m_pushFunc(pushFuncFor(order)) {}
 
+    /// Adds an element, to come out last or next.
     void push(T const& element) { m_pushFunc->push(m_elements, element); }
     /// Takes the next element out; there must be one.
     T pop()
     {
-        T element = m_elements.front();
+        T element = std::move(m_elements.front());
         m_elements.pop_front();
         return element;
     }

@@ -1,6 +1,7 @@
 #include "commands/StretchCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -30,6 +31,7 @@ StretchCmd* StretchCmd::clone() const
 
 bool StretchCmd::execute(CommandHandler* handler)
 {
+    requireObjects(m_media);
     m_oldScalar = m_media->scalar();
     m_actualScalar = handler->stretch(m_track, m_media, m_requestedScalar);
     return true;

@@ -21,6 +21,7 @@ public:
     template <class T>
     void addTrackMap(boost::shared_ptr<T const> const& fromTrack,
                      boost::shared_ptr<T const> const& destTrack);
+    /// Whether that track has a destination.
     template <class T>
     bool hasMapping(boost::shared_ptr<T const> const& fromTrack) const;
     /// Empty for a track without a mapping.

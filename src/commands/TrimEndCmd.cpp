@@ -1,6 +1,8 @@
 #include "commands/TrimEndCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/OnePiece.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -18,7 +20,7 @@ boost::shared_ptr<TrimEndCmd> TrimEndCmd::create(boost::shared_ptr<Track const> 
                                                  boost::shared_ptr<Media const> const& media,
                                                  long long offset)
 {
-    return boost::shared_ptr<TrimEndCmd>(new TrimEndCmd(track, media, offset));
+    return OnePiece<TrimEndCmd>::make(track, media, offset);
 }
 
 TrimEndCmd* TrimEndCmd::clone() const
@@ -28,6 +30,7 @@ TrimEndCmd* TrimEndCmd::clone() const
 
 bool TrimEndCmd::execute(CommandHandler* handler)
 {
+    requireObjects(media());
     handler->trimEnd(track(), media(), offset());
     return true;
 }

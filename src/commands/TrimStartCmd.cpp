@@ -1,6 +1,8 @@
 #include "commands/TrimStartCmd.h"
 
 #include "commands/CommandHandler.h"
+#include "commands/OnePiece.h"
+#include "commands/RequireObjects.h"
 #include "datatypes/SaturatedArithmetic.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
@@ -18,7 +20,7 @@ boost::shared_ptr<TrimStartCmd> TrimStartCmd::create(boost::shared_ptr<Track con
                                                      boost::shared_ptr<Media const> const& media,
                                                      long long offset)
 {
-    return boost::shared_ptr<TrimStartCmd>(new TrimStartCmd(track, media, offset));
+    return OnePiece<TrimStartCmd>::make(track, media, offset);
 }
 
 TrimStartCmd* TrimStartCmd::clone() const
@@ -28,6 +30,7 @@ TrimStartCmd* TrimStartCmd::clone() const
 
 bool TrimStartCmd::execute(CommandHandler* handler)
 {
+    requireObjects(media());
     handler->trimStart(track(), media(), offset());
     return true;
 }

@@ -29,6 +29,8 @@ public:
     void xmlName(XMLable::Options& options) const override;
 
 private:
+    friend class OnePiece<TrimStartCmd>;
+
     TrimStartCmd(boost::shared_ptr<Track const> const& track,
                  boost::shared_ptr<Media const> const& media, long long offset);
 };

@@ -2,6 +2,7 @@
 
 #include "commands/GroupUtil.h"
 #include "commands/RemoveLinkCmd.h"
+#include "commands/RequireObjects.h"
 #include "commands/XmlAttributes.h"
 #include "timeline/Media.h"
 
@@ -23,6 +24,7 @@ UnlinkCmd* UnlinkCmd::clone() const
 
 void UnlinkCmd::executeCommands(CommandHandler const*)
 {
+    requireObjects(m_media);
     for (boost::shared_ptr<Media const> const& entry : GroupUtil::linkedMedias(m_media)) {
         MultiCommand::execute(RemoveLinkCmd::create(m_media, entry));
         MultiCommand::execute(RemoveLinkCmd::create(entry, m_media));

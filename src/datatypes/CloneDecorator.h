@@ -13,6 +13,7 @@ class TARN_API CloneDecorator
 public:
     virtual ~CloneDecorator() = default;
 
+    /// Called once the copy stands in its shared pointer.
     virtual void decorateClone(T const& original, boost::shared_ptr<T> const& clone) const = 0;
 };
 

@@ -17,7 +17,9 @@ public:
     Color(Color const& other) = default;
     Color& operator=(Color const& other) = default;
 
+    /// Opaque.
     static Color black();
+    /// Kept so: with an alpha of 0; it covers nothing.
     static Color white();
 
     std::string description() const override;

@@ -16,7 +16,9 @@ public:
 
     virtual ~EncodingConverter() = default;
 
+    /// The units of a narrow text.
     virtual std::vector<unsigned int> unicodeNarrowToWide(std::string const& text) const = 0;
+    /// The narrow text of these units.
     virtual std::string unicodeWideToNarrow(std::vector<unsigned int> const& units) const = 0;
 };
 

@@ -3,6 +3,7 @@
 #include "datatypes/Export.h"
 #include "datatypes/TarnObject.h"
 
+#include <cstddef>
 #include <mutex>
 #include <vector>
 
@@ -21,15 +22,22 @@ public:
     IdentManager(IdentManager const&) = delete;
     IdentManager& operator=(IdentManager const&) = delete;
 
+    /// The number retired last, or else one that was never given out.
     unsigned int newIdent();
     /// Gives back an ident that newIdent() gave out.
     void retireIdent(unsigned int ident);
+
+    /// The same for several at once, from front to back.
+    void newIdents(unsigned int* idents, std::size_t count);
+    void retireIdents(unsigned int const* idents, std::size_t count);
 
     std::string description() const override;
 
 private:
     IdentManager() = default;
     ~IdentManager() = default;
+
+    unsigned int draw();
 
     unsigned int m_nextIdent = 0;
     std::vector<unsigned int> m_retiredIdents;

@@ -3,13 +3,11 @@
 #include "parameters/Attribute.h"
 #include "project/ReadWriteMutex.h"
 
-#include <utility>
-
 namespace tarn {
 
 Identified::Identified(boost::weak_ptr<ThreadSafe const> const& project, std::string const& text,
                        ReservedIdent attributeIdent)
-    : m_identProject(project), m_firstText(text), m_attributeIdent(std::move(attributeIdent))
+    : m_identProject(project), m_firstText(text), m_identAttribute(&attributeIdent)
 {}
 
 Identified::Identified(Identified const& other)
@@ -30,21 +28,31 @@ boost::shared_ptr<Attribute<std::string> const> Identified::identAttribute() con
 
 boost::shared_ptr<Attribute<std::string>> const& Identified::attribute() const
 {
-    return m_identAttribute.get([this] {
+    return m_identAttribute.get([this](ReservedIdent* ident) {
         return boost::shared_ptr<Attribute<std::string>>(
-            new Attribute<std::string>(m_firstText, m_identProject, m_attributeIdent));
+            new Attribute<std::string>(m_firstText, m_identProject, *ident));
     });
 }
 
 std::string Identified::identText() const
 {
-    if (m_identAttribute.isMade())
+    if (isIdentAttributeMade())
         return attribute()->value();
     boost::shared_ptr<ThreadSafe const> const project(m_identProject);
     ReadWriteMutex::ScopedReadLock lock(project->mutex());
     // Whoever made the attribute meanwhile cannot have written to it before this lock was taken,
     // or the write would have been seen here.
-    return m_identAttribute.isMade() ? attribute()->value() : m_firstText;
+    return isIdentAttributeMade() ? attribute()->value() : m_firstText;
+}
+
+void Identified::xmlOfIdent(XMLable::Options& options, int indent) const
+{
+    std::string const label = "name=\"ident\"";
+    LateObject<Attribute<std::string>, 1>::Idents ident;
+    if (m_identAttribute.waitingIdents(ident))
+        Attribute<std::string>::xmlBeforeFirstUse(options, indent, label, m_firstText, ident[0]);
+    else
+        attribute()->toXML(options, indent, label);
 }
 
 }  // namespace tarn

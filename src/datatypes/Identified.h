@@ -1,8 +1,8 @@
 #pragma once
 
 #include "datatypes/Export.h"
-#include "datatypes/MadeOnFirstUse.h"
-#include "datatypes/ReservedIdent.h"
+#include "datatypes/LateObject.h"
+#include "datatypes/XMLable.h"
 #include "parameters/ParametersFwd.h"
 #include "project/ProjectFwd.h"
 
@@ -22,6 +22,7 @@ public:
                         ReservedIdent attributeIdent = ReservedIdent::draw());
     virtual ~Identified();
 
+    /// The text as an attribute, made when first asked for.
     virtual boost::shared_ptr<Attribute<std::string>> identAttribute();
     virtual boost::shared_ptr<Attribute<std::string> const> identAttribute() const;
 
@@ -30,6 +31,9 @@ protected:
     Identified(Identified const& other);
     Identified& operator=(Identified const& other) = delete;
 
+    bool isIdentAttributeMade() const { return m_identAttribute.ifMade() != nullptr; }
+    /// Writes the attribute, labelled as what it is, whether it is made or not.
+    void xmlOfIdent(XMLable::Options& options, int indent) const;
     /// What the attribute says, under the read lock.
     /// @throws boost::bad_weak_ptr for a dead project
     std::string identText() const;
@@ -40,8 +44,7 @@ private:
     boost::weak_ptr<ThreadSafe const> m_identProject;
     // The text while nobody has asked for the attribute, as for most nobody ever does.
     std::string m_firstText;
-    mutable ReservedIdent m_attributeIdent;
-    MadeOnFirstUse<Attribute<std::string>> m_identAttribute;
+    LateObject<Attribute<std::string>, 1> m_identAttribute;
 };
 
 }  // namespace tarn

@@ -9,7 +9,8 @@
 
 namespace tarn {
 
-/// Links among clones: a clone starts without links, and gets them here once its fellows exist.
+/// Links among clones: a clone starts without links, and gets them here once its fellows exist. For
+/// edits, and for clones that nobody else knows. Takes read locks as it goes.
 namespace LinkCloneUtil {
 
 /// Links the clones as their originals are linked. A link to a media outside the map is dropped, so

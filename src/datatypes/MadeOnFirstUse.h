@@ -5,6 +5,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include <atomic>
+#include <memory>
 #include <mutex>
 
 namespace tarn {
@@ -13,38 +14,51 @@ namespace tarn {
 TARN_API std::mutex& firstUseMutex();
 
 /// A shared object that few ever ask for, made when the first one does, by whichever thread that
-/// is. It stays the same one from then on.
+/// is. It stays the same one from then on. Until then it costs one word.
 template <class T>
 class MadeOnFirstUse
 {
 public:
-    MadeOnFirstUse() : m_isMade(false) {}
+    MadeOnFirstUse() : m_holder(nullptr) {}
     /// Of something made already, unless it is empty.
     explicit MadeOnFirstUse(boost::shared_ptr<T> const& object)
-        : m_isMade(object != nullptr), m_object(object)
+        : m_holder(object ? new boost::shared_ptr<T>(object) : nullptr)
     {}
     MadeOnFirstUse(MadeOnFirstUse const&) = delete;
     MadeOnFirstUse& operator=(MadeOnFirstUse const&) = delete;
+    ~MadeOnFirstUse() { delete m_holder.load(std::memory_order_relaxed); }
 
-    bool isMade() const { return m_isMade.load(std::memory_order_acquire); }
+    bool isMade() const { return holder() != nullptr; }
+    /// Null while it is not made.
+    T* ifMade() const
+    {
+        boost::shared_ptr<T> const* const made = holder();
+        return made ? made->get() : nullptr;
+    }
 
     /// Calls `make` if it is not made yet. @throws what `make` throws, and is not made then
     template <class Make>
     boost::shared_ptr<T> const& get(Make make) const
     {
-        if (!isMade()) {
+        boost::shared_ptr<T> const* made = holder();
+        if (!made) {
             std::lock_guard<std::mutex> const guard(firstUseMutex());
-            if (!isMade()) {
-                m_object = make();
-                m_isMade.store(true, std::memory_order_release);
+            made = holder();
+            if (!made) {
+                // Room for the pointer first: nothing may fail once the object exists.
+                auto place = std::make_unique<boost::shared_ptr<T>>();
+                *place = make();
+                made = place.release();
+                m_holder.store(made, std::memory_order_release);
             }
         }
-        return m_object;
+        return *made;
     }
 
 private:
-    mutable std::atomic<bool> m_isMade;
-    mutable boost::shared_ptr<T> m_object;
+    boost::shared_ptr<T> const* holder() const { return m_holder.load(std::memory_order_acquire); }
+
+    mutable std::atomic<boost::shared_ptr<T> const*> m_holder;
 };
 
 }  // namespace tarn

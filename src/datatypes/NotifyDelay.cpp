@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <exception>
-#include <list>
 #include <mutex>
 #include <new>
 #include <vector>
@@ -25,41 +25,56 @@ struct NotifyDelay::Queue
         Observable const* observable;
         // The same object where it counts its entries; empty for a host's own kind of observable.
         Subject const* subject;
-        // The last walk that has come by.
-        unsigned walk = 0;
     };
-    using Entries = std::list<Entry>;
+    /// The notification that one delivery is at; delivering nests when an observer edits.
+    struct Told
+    {
+        Entry entry{nullptr, nullptr};
+        Told* outer = nullptr;
+        bool isTold = false;
+    };
+    /// The how manieth entry of the process, which stays the same while others come and go.
+    using Number = std::uint64_t;
 
     /// @throws std::bad_alloc for what is no Subject; a Subject's change has happened by now, and
     ///         so must be told
     void add(Entry const& entry);
     /// Sees to it that one more subject can wait when there is no memory.
+    /// @throws std::bad_alloc
     void addReserve();
     void dropReserve();
-    /// Takes the front entry out of the queue and puts it with those being told.
+    /// Ends the telling of what `told` is at and begins the next, which leaves the queue.
     /// @return false when nothing waits, or a delay is open again
-    bool beginTelling(Entries::iterator& told);
-    void endTelling(Entries::iterator told);
+    bool tellNext(Told& told);
     void remove(Observable const* observable);
-    std::vector<Observable const*> observables();
-    /// As many calls as needed give each entry once that is there, without an allocation; an empty
-    /// one at the end.
-    Observable const* nextUnseen(unsigned walk);
+    void remove(Subject const* subject);
+
+    std::size_t numTold();
+    /// Of those being told, the outermost first; empty when it has died, or is told by now.
+    Observable const* toldAt(std::size_t depth);
+    Number firstWaiting();
+    Number endWaiting();
+    /// Empty when it has died or left the queue.
+    Observable const* waitingAt(Number number);
 
     std::atomic<int> s_refCount{0};
-    std::mutex mutex;
-    Entries s_subjects;
-    // More than one when an observer edits. The entry of what has died meanwhile is empty.
-    Entries beingTold;
 
 private:
-    bool isWaiting(Observable const* observable) const;
-    void addFromReserve(Entry const& entry);
-    void release(Entries& from, Entries::iterator entry);
+    static bool takeOut(Entry& entry, Observable const* observable);
+    void removeFromTold(Observable const* observable);
+    bool mustBeToldStill(Entry const& entry) const;
+    void dropFront();
+    void closeUp();
+    void makeRoom(std::size_t more);
 
-    // One node for each subject that is observed, but for those that are in use.
-    Entries m_reserve;
-    std::size_t m_numBorrowed = 0;
+    std::mutex m_mutex;
+    // Those before m_first have left; an entry of what has died meanwhile is empty. There is always
+    // room for one more of each subject that is observed, but for those that have used theirs.
+    std::vector<Entry> m_entries;
+    std::size_t m_first = 0;
+    Number m_firstNumber = 0;
+    std::size_t m_numObserved = 0;
+    Told* m_beingTold = nullptr;
 };
 
 void NotifyDelay::Queue::Entry::count(int change) const
@@ -71,127 +86,170 @@ void NotifyDelay::Queue::Entry::count(int change) const
 
 void NotifyDelay::Queue::add(Entry const& entry)
 {
-    std::lock_guard<std::mutex> const guard(mutex);
+    std::lock_guard<std::mutex> const guard(m_mutex);
     try {
-        s_subjects.push_back(entry);
-        entry.count(1);
+        makeRoom(1);
     } catch (std::bad_alloc const&) {
         if (!entry.subject) {
             throw;
         }
-        addFromReserve(entry);
+        closeUp();
+        if (!mustBeToldStill(entry)) {
+            return;
+        }
     }
-}
-
-/// Who has no observers has nothing to tell; who waits already is told anyway, if only once.
-void NotifyDelay::Queue::addFromReserve(Entry const& entry)
-{
-    if (!entry.subject->m_observers || m_reserve.empty() || isWaiting(entry.observable)) {
-        return;
-    }
-    m_reserve.front() = entry;
-    s_subjects.splice(s_subjects.end(), m_reserve, m_reserve.begin());
-    ++m_numBorrowed;
+    m_entries.push_back(entry);
     entry.count(1);
 }
 
-bool NotifyDelay::Queue::isWaiting(Observable const* observable) const
+/// Who has no observers has nothing to tell; who waits already is told anyway, if only once.
+bool NotifyDelay::Queue::mustBeToldStill(Entry const& entry) const
 {
-    return std::any_of(s_subjects.begin(), s_subjects.end(),
-                       [observable](Entry const& entry) { return entry.isOf(observable); });
+    return entry.subject->m_observers &&
+           std::none_of(m_entries.begin(), m_entries.end(),
+                        [&entry](Entry const& waiting) { return waiting.isOf(entry.observable); });
 }
 
 void NotifyDelay::Queue::addReserve()
 {
-    std::lock_guard<std::mutex> const guard(mutex);
-    m_reserve.push_back(Entry{nullptr, nullptr});
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    makeRoom(1);
+    ++m_numObserved;
 }
 
 void NotifyDelay::Queue::dropReserve()
 {
-    std::lock_guard<std::mutex> const guard(mutex);
-    if (m_reserve.empty()) {
-        --m_numBorrowed;
-    } else {
-        m_reserve.pop_front();
-    }
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    --m_numObserved;
 }
 
-/// Any node will do for what was borrowed.
-void NotifyDelay::Queue::release(Entries& from, Entries::iterator entry)
+/// For so many, beside the room that is held back.
+void NotifyDelay::Queue::makeRoom(std::size_t more)
 {
-    if (m_numBorrowed == 0) {
-        from.erase(entry);
+    std::size_t const needed = more + m_numObserved;
+    if (m_entries.size() + needed <= m_entries.capacity()) {
         return;
     }
-    *entry = Entry{nullptr, nullptr};
-    m_reserve.splice(m_reserve.end(), from, entry);
-    --m_numBorrowed;
+    // Half of all, so that closing up takes no longer than adding did.
+    if (2 * m_first >= m_entries.size()) {
+        closeUp();
+    }
+    if (m_entries.size() + needed > m_entries.capacity()) {
+        m_entries.reserve(2 * m_entries.size() + needed);
+    }
 }
 
-bool NotifyDelay::Queue::beginTelling(Entries::iterator& told)
+void NotifyDelay::Queue::closeUp()
 {
-    std::lock_guard<std::mutex> const guard(mutex);
-    if (s_refCount > 0 || s_subjects.empty()) {
+    m_entries.erase(m_entries.begin(),
+                    m_entries.begin() + static_cast<std::vector<Entry>::difference_type>(m_first));
+    m_first = 0;
+}
+
+void NotifyDelay::Queue::dropFront()
+{
+    ++m_firstNumber;
+    if (++m_first == m_entries.size()) {
+        closeUp();
+    }
+}
+
+bool NotifyDelay::Queue::tellNext(Told& told)
+{
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    if (told.isTold) {
+        told.entry.count(-1);
+        m_beingTold = told.outer;
+        told.isTold = false;
+    }
+    while (!m_entries.empty() && !m_entries[m_first].observable) {
+        dropFront();
+    }
+    if (s_refCount > 0 || m_entries.empty()) {
         return false;
     }
-    told = s_subjects.begin();
-    beingTold.splice(beingTold.end(), s_subjects, told);
+    told.entry = m_entries[m_first];
+    dropFront();
+    told.outer = m_beingTold;
+    m_beingTold = &told;
+    told.isTold = true;
     return true;
 }
 
-void NotifyDelay::Queue::endTelling(Entries::iterator told)
+bool NotifyDelay::Queue::takeOut(Entry& entry, Observable const* observable)
 {
-    std::lock_guard<std::mutex> const guard(mutex);
-    told->count(-1);
-    release(beingTold, told);
+    if (!entry.isOf(observable)) {
+        return false;
+    }
+    entry.count(-1);
+    entry = Entry{nullptr, nullptr};
+    return true;
+}
+
+void NotifyDelay::Queue::removeFromTold(Observable const* observable)
+{
+    for (Told* told = m_beingTold; told; told = told->outer) {
+        takeOut(told->entry, observable);
+    }
 }
 
 void NotifyDelay::Queue::remove(Observable const* observable)
 {
-    std::lock_guard<std::mutex> const guard(mutex);
-    for (Entries::iterator it = s_subjects.begin(); it != s_subjects.end();) {
-        Entries::iterator const entry = it++;
-        if (entry->isOf(observable)) {
-            entry->count(-1);
-            release(s_subjects, entry);
-        }
-    }
-    for (Entry& entry : beingTold) {
-        if (entry.isOf(observable)) {
-            entry.count(-1);
-            entry = Entry{nullptr, nullptr};
-        }
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    removeFromTold(observable);
+    for (std::size_t i = m_first; i < m_entries.size(); ++i) {
+        takeOut(m_entries[i], observable);
     }
 }
 
-std::vector<Observable const*> NotifyDelay::Queue::observables()
+void NotifyDelay::Queue::remove(Subject const* subject)
 {
-    std::lock_guard<std::mutex> const guard(mutex);
-    std::vector<Observable const*> result;
-    for (Entry const& entry : beingTold) {
-        if (entry.observable) {
-            result.push_back(entry.observable);
-        }
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    removeFromTold(subject);
+    // What dies has mostly changed last: from the newest on, and no further than to its first.
+    for (std::size_t i = m_entries.size(); subject->m_queueCount > 0 && i > m_first; --i) {
+        takeOut(m_entries[i - 1], subject);
     }
-    for (Entry const& entry : s_subjects) {
-        result.push_back(entry.observable);
+}
+
+std::size_t NotifyDelay::Queue::numTold()
+{
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::size_t result = 0;
+    for (Told const* told = m_beingTold; told; told = told->outer) {
+        ++result;
     }
     return result;
 }
 
-Observable const* NotifyDelay::Queue::nextUnseen(unsigned walk)
+Observable const* NotifyDelay::Queue::toldAt(std::size_t depth)
 {
-    std::lock_guard<std::mutex> const guard(mutex);
-    for (Entries* const entries : {&beingTold, &s_subjects}) {
-        for (Entry& entry : *entries) {
-            if (entry.observable && entry.walk != walk) {
-                entry.walk = walk;
-                return entry.observable;
-            }
-        }
+    std::size_t const size = numTold();
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    Told const* told = depth < size ? m_beingTold : nullptr;
+    for (std::size_t i = depth + 1; told && i < size; ++i) {
+        told = told->outer;
     }
-    return nullptr;
+    return told ? told->entry.observable : nullptr;
+}
+
+NotifyDelay::Queue::Number NotifyDelay::Queue::firstWaiting()
+{
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    return m_firstNumber;
+}
+
+NotifyDelay::Queue::Number NotifyDelay::Queue::endWaiting()
+{
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    return m_firstNumber + (m_entries.size() - m_first);
+}
+
+Observable const* NotifyDelay::Queue::waitingAt(Number number)
+{
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    return number < m_firstNumber ? nullptr
+                                  : m_entries[m_first + (number - m_firstNumber)].observable;
 }
 
 NotifyDelay::Queue& NotifyDelay::queue()
@@ -216,17 +274,16 @@ NotifyDelay::~NotifyDelay() noexcept(false)
 void NotifyDelay::deliver()
 {
     std::exception_ptr first;
-    Queue::Entries::iterator told;
+    Queue::Told told;
     // An observer may open a delay of its own, whose end then delivers what waits here.
-    while (queue().beginTelling(told)) {
+    while (queue().tellNext(told)) {
         try {
-            told->observable->notify();
+            told.entry.observable->notify();
         } catch (...) {
             if (!first) {
                 first = std::current_exception();
             }
         }
-        queue().endTelling(told);
     }
     if (first && std::uncaught_exceptions() == 0) {
         std::rethrow_exception(first);
@@ -258,28 +315,25 @@ void NotifyDelay::removeObservable(Observable const* observable)
     queue().remove(observable);
 }
 
-void NotifyDelay::removeObserver(Observer* observer)
+void NotifyDelay::removeObservable(Subject const* subject)
 {
-    std::vector<Observable const*> observables;
-    try {
-        observables = queue().observables();
-    } catch (std::bad_alloc const&) {
-        removeObserverSlowly(observer);
-        return;
-    }
-    for (Observable const* const observable : observables) {
-        observable->detach(observer);
-    }
+    queue().remove(subject);
 }
 
-/// Begins at the front again after each call, as it cannot note the way: an observer dies without
-/// memory, too.
-void NotifyDelay::removeObserverSlowly(Observer* observer)
+void NotifyDelay::removeObserver(Observer* observer)
 {
-    static std::atomic<unsigned> s_walks{0};
-    unsigned const walk = ++s_walks;
-    while (Observable const* const observable = queue().nextUnseen(walk)) {
-        observable->detach(observer);
+    // Step by step, without a list of its own: an observer dies without memory, too.
+    std::size_t const numTold = queue().numTold();
+    for (std::size_t depth = 0; depth < numTold; ++depth) {
+        if (Observable const* const observable = queue().toldAt(depth)) {
+            observable->detach(observer);
+        }
+    }
+    Queue::Number const end = queue().endWaiting();
+    for (Queue::Number number = queue().firstWaiting(); number < end; ++number) {
+        if (Observable const* const observable = queue().waitingAt(number)) {
+            observable->detach(observer);
+        }
     }
 }
 

@@ -24,11 +24,14 @@ public:
 
     std::string description() const override;
 
+    /// Whether one is open anywhere in the process.
     static bool isActive();
+    /// Queues a notification.
     static void addObservable(Observable const* observable);
     static void addObservable(Subject const* subject);
     /// Drops every entry of what dies, the one being told included.
     static void removeObservable(Observable const* observable);
+    static void removeObservable(Subject const* subject);
     /// Detaches what dies from every subject that waits or is being told.
     static void removeObserver(Observer* observer);
 
@@ -38,7 +41,6 @@ private:
 
     static Queue& queue();
     static void deliver();
-    static void removeObserverSlowly(Observer* observer);
     /// For each subject that comes to be observed, and that is no more: room in the queue which is
     /// there when memory is not.
     static void addReserve();

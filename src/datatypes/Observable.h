@@ -15,6 +15,7 @@ public:
     virtual void attach(Observer* observer) const = 0;
     /// Takes out every entry of that observer.
     virtual void detach(Observer* observer) const = 0;
+    /// Calls each observer, in the order of attachment.
     virtual void notify() const = 0;
 
 protected:

@@ -3,6 +3,7 @@
 #include "datatypes/Observer.h"
 
 #include <algorithm>
+#include <exception>
 #include <list>
 
 namespace tarn {
@@ -80,10 +81,20 @@ std::size_t ObserverList::size() const
 void ObserverList::notify()
 {
     Walk const walk(m_entries);
+    std::exception_ptr first;
     for (Observer* const& observer : walk.observers()) {
         if (observer) {
-            observer->observerUpdate();
+            try {
+                observer->observerUpdate();
+            } catch (...) {
+                if (!first) {
+                    first = std::current_exception();
+                }
+            }
         }
+    }
+    if (first) {
+        std::rethrow_exception(first);
     }
 }
 

@@ -25,11 +25,12 @@ public:
     void attach(Observer* observer);
     /// Takes out every entry of that observer.
     void detach(Observer* observer);
+    /// Whether the observer stands in the list at least once.
     bool isAttached(Observer* observer) const;
     std::size_t size() const;
 
     /// Calls each from front to back.
-    /// @throws what an observer throws, at once
+    /// @throws the first exception of an observer, once all have been called
     void notify();
 
 private:

@@ -24,14 +24,18 @@ public:
 
     std::string description() const override;
 
+    /// The corner of that index, from 0 to 3.
     Point const& at(int index) const { return m_corners[index]; }
+    /// Replaces the corner of that index, from 0 to 3.
     void setAt(int index, Point const& corner) { m_corners[index] = corner; }
 
+    /// The smallest x of the four corners; and so on.
     double minX() const;
     double maxX() const;
     double minY() const;
     double maxY() const;
 
+    /// Half way between the two corners of that side, as the corners of a rectangle go.
     Point leftMid() const;
     Point topMid() const;
     Point rightMid() const;

@@ -8,7 +8,8 @@
 
 namespace tarn {
 
-/// An upright rectangle; T is int, float or double.
+/// An upright rectangle; T is int, float or double. From its left bottom corner, y upwards; sizes
+/// are not tested.
 template <class T>
 class TARN_API Rect : public TarnObject
 {

@@ -24,6 +24,12 @@ ReservedIdent::~ReservedIdent()
         IdentManager::instance()->retireIdent(m_ident);
 }
 
+void ReservedIdent::hold(unsigned int ident)
+{
+    m_ident = ident;
+    m_isHeld = true;
+}
+
 unsigned int ReservedIdent::take()
 {
     if (!m_isHeld)

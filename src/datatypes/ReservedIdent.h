@@ -12,11 +12,15 @@ class TARN_API ReservedIdent
 public:
     /// Holds none.
     ReservedIdent() = default;
+    /// Takes the next number of the process.
     static ReservedIdent draw();
     /// Leaves the other one without.
     ReservedIdent(ReservedIdent&& other) noexcept;
     ReservedIdent& operator=(ReservedIdent&& other) = delete;
     ~ReservedIdent();
+
+    /// Holds one that was drawn elsewhere; it holds none yet.
+    void hold(unsigned int ident);
 
     bool isHeld() const { return m_isHeld; }
     /// The one held.

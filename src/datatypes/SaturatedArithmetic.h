@@ -14,6 +14,7 @@ inline long long saturatedSum(long long a, long long b)
     return b < 0 ? std::numeric_limits<long long>::min() : std::numeric_limits<long long>::max();
 }
 
+/// a - b, staying at the ends of the 64-bit range instead of wrapping.
 inline long long saturatedDifference(long long a, long long b)
 {
     long long result = 0;

@@ -33,11 +33,13 @@ public:
 
     /// For the whole process, not owned; to be set before any parameter is asked for.
     static void setLazyLoader(ScreenMetaDataLoader* loader);
+    /// Null until a host has set one.
     static ScreenMetaDataLoader* lazyLoader();
 
     /// The project's. @throws boost::bad_weak_ptr for a dead project
     ReadWriteMutex& mutex() const override = 0;
 
+    /// The media beside whose file relative names lie; held weakly.
     virtual void setParent(boost::weak_ptr<FileRepresentation const> const& parent) = 0;
 
     /// @name File names, kept as given

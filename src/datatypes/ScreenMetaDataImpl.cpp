@@ -2,14 +2,14 @@
 
 #include "clipbin/PathUtil.h"
 #include "datatypes/FileRepresentation.h"
+#include "datatypes/MadeOnFirstUse.h"
 #include "datatypes/ScreenMetaDataLoader.h"
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "parameters/ParameterInterface.h"
 
 #include <boost/filesystem/path.hpp>
-
-#include <ostream>
 
 namespace tarn {
 
@@ -50,9 +50,10 @@ std::string convertToRelativeIfNecessary(XMLable::Options const& options, std::s
 void writeParameterFile(XMLable::Options& options, int indent, std::string const& fileName,
                         char const* paramName)
 {
-    *options.stream << XMLable::genIndent(indent) << "<ParameterFile filename=\""
-                    << xml_representation(convertToRelativeIfNecessary(options, fileName))
-                    << "\" paramName=\"" << paramName << "\"/>\n";
+    XmlText(options).indent(indent)
+        << "<ParameterFile filename=\""
+        << xml_representation(convertToRelativeIfNecessary(options, fileName)) << "\" paramName=\""
+        << paramName << "\"/>\n";
 }
 
 }  // namespace
@@ -141,11 +142,19 @@ boost::shared_ptr<ParameterInterface> ScreenMetaDataImpl::load(
 {
     // Kept so: a host without a loader hears of it each time, whether or not it would be needed.
     assertLazyLoader(lazyLoader());
-    if (!parameter) {
-        parameter = lazyLoader()->loadParameter(convertToAbsolute(m_parent, fileName), paramName,
-                                                m_lockOwner, m_editRate);
+    {
+        std::lock_guard<std::mutex> const guard(firstUseMutex());
+        if (parameter) {
+            return parameter;
+        }
     }
-    return parameter;
+    boost::shared_ptr<ParameterInterface> const loaded = lazyLoader()->loadParameter(
+        convertToAbsolute(m_parent, fileName), paramName, m_lockOwner, m_editRate);
+    // Another thread may have loaded meanwhile; what it stored ends after the mutex is free.
+    boost::shared_ptr<ParameterInterface> stored = loaded;
+    std::lock_guard<std::mutex> const guard(firstUseMutex());
+    parameter.swap(stored);
+    return loaded;
 }
 
 bool ScreenMetaDataImpl::isValid() const
@@ -156,7 +165,7 @@ bool ScreenMetaDataImpl::isValid() const
 
 void ScreenMetaDataImpl::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "ScreenMetaData";
+    XmlText(options) << "ScreenMetaData";
 }
 
 void ScreenMetaDataImpl::xmlAttributes(XMLable::Options&) const {}

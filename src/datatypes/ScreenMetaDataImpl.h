@@ -5,7 +5,8 @@
 
 namespace tarn {
 
-/// The one form of ScreenMetaData. Const accessors fill the loaded parameters.
+/// The one form of ScreenMetaData. Const accessors fill the loaded parameters, without the
+/// project's lock: threads that ask at the same time may all load, and get one each.
 class TARN_API ScreenMetaDataImpl : public ScreenMetaData
 {
 public:

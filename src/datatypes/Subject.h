@@ -40,13 +40,14 @@ public:
     void attach(Observer* observer) const override;
     /// Silent when that observer is not attached.
     void detach(Observer* observer) const override;
-    /// With a NotifyDelay open it throws nothing: when there is no memory to queue, observers are
-    /// told all the same, though perhaps once for several changes.
+    /// With a NotifyDelay open it throws nothing: when there is no memory to queue, who observes
+    /// this is told all the same, though perhaps once for several changes.
     /// @throws what an observer throws, unless a NotifyDelay is open
     void notify() const override;
 
     /// Whether no NotifyDisabler is alive.
     bool isNotifying() const { return m_disableCount == 0; }
+    /// Silent for as long as the result lives.
     NotifyDisabler disableNotifies() { return NotifyDisabler(this); }
 
 private:

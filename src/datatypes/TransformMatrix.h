@@ -10,7 +10,8 @@
 namespace tarn {
 
 /// A 4 x 4 matrix, row-major. Points are columns, so the matrix stands on their left and a
-/// translation lies in its last column. Rows and columns count from 0 and are not bounds-tested.
+/// translation lies in its last column. Rows and columns count from 0 and are not bounds-tested. A
+/// value, without a lock; nothing is thrown.
 class TARN_API TransformMatrix : public TarnObject
 {
 public:
@@ -23,6 +24,7 @@ public:
 
     std::string description() const override;
 
+    /// The element in that row and column.
     double& at(int row, int column) { return m_elements[row * 4 + column]; }
     double at(int row, int column) const { return m_elements[row * 4 + column]; }
     double& operator()(int row, int column) { return at(row, column); }
@@ -47,6 +49,7 @@ public:
     /// Becomes other x this, so `other` acts on a point last.
     void prepend(TransformMatrix const& other);
 
+    /// 0 for a singular matrix.
     double determinant() const;
     /// A singular matrix has an inverse of elements that are not finite.
     TransformMatrix inverse() const;
@@ -58,27 +61,37 @@ public:
     void rowOpMultiply(int row, double factor);
     /// Adds factor times row `added` to `row`.
     void rowOpAddRow(int row, int added, double factor);
+    /// Exchanges two rows.
     void rowOpSwapRow(int row1, int row2);
 
     /// Divides each column by its bottom element.
     void normalizeColumnVectors();
 
+    /// Factors along each axis.
     static TransformMatrix scale(double x, double y, double z);
+    /// By so much along each axis.
     static TransformMatrix translate(double x, double y, double z);
     /// Angles in radians, whose sign is lost: a negative one shears like a positive one.
     static TransformMatrix shear(double angleX, double angleY);
     /// Angles in radians.
     static TransformMatrix rotateAroundX(double angle);
+    /// Radians, from z towards x.
     static TransformMatrix rotateAroundY(double angle);
+    /// Radians, from x towards y.
     static TransformMatrix rotateAroundZ(double angle);
-    /// Onto the plane z = `planeZ`, seen from `eye`.
+    /// Onto the plane z = `planeZ`, seen from `eye`: each point goes to where its line to the eye
+    /// meets the plane. Not finite for an eye in that plane.
     static TransformMatrix perspectiveProjection(Point const& eye, double planeZ);
-    /// `fovY` in radians, `aspect` is width by height.
+    /// `fovY` in radians, `aspect` is width by height: with f = cot(fovY / 2), x by f / aspect and
+    /// y by f, both over -z; depth from -1 at the near distance to 1 at the far one.
     static TransformMatrix perspectiveProjection(double fovY, double aspect, double nearDistance,
                                                  double farDistance);
-    /// Left-handed and transposed, meant for points as rows.
+    /// Left-handed and transposed, meant for points as rows; depth from 0 to 1.
     static TransformMatrix perspectiveProjectionLH(double fovY, double aspect, double nearDistance,
                                                    double farDistance);
+    /// From the scene to an eye that looks along -z: rows s, u, -f of f = lookAt - eye, s = f x up,
+    /// u = s x f, f and up one long.
+    /// Kept so: the last column is the eye negated as it stands, not turned.
     static TransformMatrix cameraLookAt(Point const& eye, Point const& lookAt, Point const& up);
     /// Left-handed and transposed, meant for points as rows.
     static TransformMatrix cameraLookAtLH(Point const& eye, Point const& lookAt, Point const& up);

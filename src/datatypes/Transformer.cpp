@@ -1,118 +1,144 @@
 #include "datatypes/Transformer.h"
 
 #include "datatypes/GraphicsUtil.h"
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
 #include "parameters/VectorParam.h"
-
-#include <ostream>
+#include "project/ReadWriteMutex.h"
 
 namespace tarn {
 
 namespace {
 
-boost::shared_ptr<VectorParam> newVector(boost::weak_ptr<ThreadSafe const> const& project,
-                                         int count, std::string const& name, double initial)
-{
-    boost::shared_ptr<VectorParam> const vector(new VectorParam(project, count, name));
-    for (int i = 0; i < count; ++i)
-        vector->at(i)->addKeyFrame(0, initial);
-    return vector;
-}
+// Where each vector stands among the components.
+int constexpr k_translation = 0;
+int constexpr k_rotation = 3;
+int constexpr k_shear = 6;
+int constexpr k_scale = 8;
+int constexpr k_anchor = 11;
 
-void loadVector(Parametric const* owner, VectorParam const& vector, long long time, double* values)
-{
-    for (int i = 0; i < vector.numDimensions(); ++i) {
-        values[i] =
-            owner->transformedDoubleParameterValueAtTime(vector.at(i), static_cast<double>(time));
-    }
-}
-
-void appendDimensions(VectorParam const& vector,
-                      MTVector<boost::shared_ptr<ParameterInterface const>>* parameters)
-{
-    for (int i = 0; i < vector.numDimensions(); ++i)
-        parameters->push_back(vector.at(i));
-}
+unsigned int constexpr k_everything = (1u << 14) - 1;
+unsigned int constexpr k_allButTranslation = k_everything & ~(7u << k_translation);
+unsigned int constexpr k_allButScale = k_everything & ~(7u << k_scale);
 
 }  // namespace
 
+/// A placement in numbers.
+struct Transformer::Components
+{
+    double values[k_numComponents];
+
+    double const* translation() const { return values + k_translation; }
+    double const* rotation() const { return values + k_rotation; }
+    double const* shear() const { return values + k_shear; }
+    double const* scale() const { return values + k_scale; }
+    double const* anchor() const { return values + k_anchor; }
+};
+
 Transformer::Transformer(boost::weak_ptr<ThreadSafe const> const& project)
-    : m_translation(newVector(project, 3, "translation", 0))
-    , m_rotation(newVector(project, 3, "rotation", 0))
-    , m_shear(newVector(project, 2, "shear", 0))
-    , m_scale(newVector(project, 3, "scale", 1))
-    , m_anchor(newVector(project, 3, "anchor", 0))
+    : m_project(project)
+    , m_translation("translation", 0)
+    , m_rotation("rotation", 0)
+    , m_shear("shear", 0)
+    , m_scale("scale", 1)
+    , m_anchor("anchor", 0)
 {}
 
 Transformer::Transformer(Transformer const& other)
-    : m_translation(other.m_translation->clone())
-    , m_rotation(other.m_rotation->clone())
-    , m_shear(other.m_shear->clone())
-    , m_scale(other.m_scale->clone())
-    , m_anchor(other.m_anchor->clone())
+    : m_project(other.m_project.projectMutex())
+    , m_translation(other.m_translation)
+    , m_rotation(other.m_rotation)
+    , m_shear(other.m_shear)
+    , m_scale(other.m_scale)
+    , m_anchor(other.m_anchor)
 {}
 
 Transformer::~Transformer() {}
 
+void Transformer::storeConstants(Parametric const& owner, unsigned int& wanted, int first,
+                                 double* values) const
+{
+    m_translation.storeConstants(owner, wanted, first + k_translation, values);
+    m_rotation.storeConstants(owner, wanted, first + k_rotation, values);
+    m_shear.storeConstants(owner, wanted, first + k_shear, values);
+    m_scale.storeConstants(owner, wanted, first + k_scale, values);
+    m_anchor.storeConstants(owner, wanted, first + k_anchor, values);
+}
+
+void Transformer::storeOthers(Parametric const& owner, double time, unsigned int wanted, int first,
+                              double* values) const
+{
+    m_scale.storeOthers(owner, m_project, time, wanted, first + k_scale, values);
+    m_translation.storeOthers(owner, m_project, time, wanted, first + k_translation, values);
+    m_rotation.storeOthers(owner, m_project, time, wanted, first + k_rotation, values);
+    m_shear.storeOthers(owner, m_project, time, wanted, first + k_shear, values);
+    m_anchor.storeOthers(owner, m_project, time, wanted, first + k_anchor, values);
+}
+
+/// Loads the components whose bits are set.
+void Transformer::load(Parametric const& owner, long long time, unsigned int wanted,
+                       Components& components) const
+{
+    {
+        ReadWriteMutex::ScopedReadLock lock(m_project.mutex());
+        storeConstants(owner, wanted, 0, components.values);
+    }
+    if (wanted != 0)
+        storeOthers(owner, static_cast<double>(time), wanted, 0, components.values);
+}
+
 TransformMatrix Transformer::calcTransformAtTime(Parametric const* owner, long long time) const
 {
-    double scaleNow[3];
-    loadVector(owner, *m_scale, time, scaleNow);
-    return calcTransformAtTimeWithScale(owner, time, scaleNow);
+    Components now;
+    load(*owner, time, k_everything, now);
+    return GraphicsUtil::calcTransformFromComponents(now.scale(), now.translation(), now.rotation(),
+                                                     now.shear(), now.anchor());
 }
 
 TransformMatrix Transformer::calcTransformAtTimeWithScale(Parametric const* owner, long long time,
                                                           double const* scale) const
 {
-    double translationNow[3];
-    double rotationNow[3];
-    double shearNow[2];
-    double anchorNow[3];
-    loadVector(owner, *m_translation, time, translationNow);
-    loadVector(owner, *m_rotation, time, rotationNow);
-    loadVector(owner, *m_shear, time, shearNow);
-    loadVector(owner, *m_anchor, time, anchorNow);
-    return GraphicsUtil::calcTransformFromComponents(scale, translationNow, rotationNow, shearNow,
-                                                     anchorNow);
+    Components now;
+    load(*owner, time, k_allButScale, now);
+    return GraphicsUtil::calcTransformFromComponents(scale, now.translation(), now.rotation(),
+                                                     now.shear(), now.anchor());
 }
 
 TransformMatrix Transformer::calcTransformAtTimeWithTranslation(Parametric const* owner,
                                                                 long long time,
                                                                 double const* translation) const
 {
-    double scaleNow[3];
-    double rotationNow[3];
-    double shearNow[2];
-    double anchorNow[3];
-    loadVector(owner, *m_scale, time, scaleNow);
-    loadVector(owner, *m_rotation, time, rotationNow);
-    loadVector(owner, *m_shear, time, shearNow);
-    loadVector(owner, *m_anchor, time, anchorNow);
-    return GraphicsUtil::calcTransformFromComponents(scaleNow, translation, rotationNow, shearNow,
-                                                     anchorNow);
+    Components now;
+    load(*owner, time, k_allButTranslation, now);
+    return GraphicsUtil::calcTransformFromComponents(now.scale(), translation, now.rotation(),
+                                                     now.shear(), now.anchor());
 }
 
 void Transformer::genXMLForTransformer(XMLable::Options& options, int indent) const
 {
-    *options.stream << XMLable::genIndent(indent) << "<Transformer>\n";
-    m_translation->toXML(options, indent + 1, "name=\"translation\"");
-    m_rotation->toXML(options, indent + 1, "name=\"rotation\"");
-    m_shear->toXML(options, indent + 1, "name=\"shear\"");
-    m_scale->toXML(options, indent + 1, "name=\"scale\"");
-    m_anchor->toXML(options, indent + 1, "name=\"anchor\"");
-    *options.stream << XMLable::genIndent(indent) << "</Transformer>\n";
+    XmlText(options).indent(indent) << "<Transformer>\n";
+    m_translation.toXML(options, indent + 1);
+    m_rotation.toXML(options, indent + 1);
+    m_shear.toXML(options, indent + 1);
+    m_scale.toXML(options, indent + 1);
+    m_anchor.toXML(options, indent + 1);
+    XmlText(options).indent(indent) << "</Transformer>\n";
 }
 
 void Transformer::addTransformerParametersToParameters(
     Transformer const* transformer,
     MTVector<boost::shared_ptr<ParameterInterface const>>* parameters)
 {
-    appendDimensions(*transformer->m_translation, parameters);
-    appendDimensions(*transformer->m_rotation, parameters);
-    appendDimensions(*transformer->m_shear, parameters);
-    appendDimensions(*transformer->m_scale, parameters);
-    appendDimensions(*transformer->m_anchor, parameters);
+    auto const append = [&](VectorParam const& vector) {
+        for (int i = 0; i < vector.numDimensions(); ++i)
+            parameters->push_back(vector.at(i));
+    };
+    append(*transformer->translation());
+    append(*transformer->rotation());
+    append(*transformer->shear());
+    append(*transformer->scale());
+    append(*transformer->anchor());
 }
 
 }  // namespace tarn

@@ -33,12 +33,15 @@ public:
     UpdateCollector(UpdateCollector const&) = delete;
     UpdateCollector& operator=(UpdateCollector const&) = delete;
 
+    /// Collects from now on. Does not nest.
     void startCollecting();
     /// Lets each object that was collected notify, in no told order.
     /// @throws the first exception of an observer, once all have notified
     void stopCollecting();
+    /// Between startCollecting() and stopCollecting().
     bool isCollecting() const;
-    /// When there is no memory to collect it, it notifies at once.
+    /// Notes the object, once; it is kept alive until it has notified. When there is no memory to
+    /// note it, it notifies at once.
     void addObservable(boost::shared_ptr<Observable const> const& observable);
 
     std::string description() const override;

@@ -12,11 +12,15 @@ namespace VectorUtil {
 
 /// From `a` to `b`.
 TARN_API Point createVector(Point const& a, Point const& b);
+/// By Pythagoras, in space.
 TARN_API double length(Point const& vector);
 /// Makes it one long.
 TARN_API void normalize(Point& vector);
+/// Half way from `a` to `b`.
 TARN_API Point midPoint(Point const& a, Point const& b);
+/// a x b: at right angles to both.
 TARN_API Point crossProduct(Point const& a, Point const& b);
+/// The sum of the products of the components.
 TARN_API double dotProduct(Point const& a, Point const& b);
 /// a x b, one long.
 TARN_API Point computeNormal(Point const& a, Point const& b);

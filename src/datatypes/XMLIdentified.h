@@ -21,6 +21,7 @@ public:
     XMLIdentified& operator=(XMLIdentified const& other);
     virtual ~XMLIdentified();
 
+    /// Unlike that of every other living object.
     unsigned int xmlIdent() const { return m_xmlIdent; }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "datatypes/EncodingConverter.h"
 
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -33,10 +34,21 @@ char const* entityOf(unsigned int unit)
     }
 }
 
+/// Whether a text is the same in XML: plain ASCII throughout, without any of the above.
+bool standsForItself(std::string const& text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) {
+        unsigned char const byte = static_cast<unsigned char>(c);
+        return byte > 0 && byte < 0x80 && !entityOf(byte);
+    });
+}
+
 }  // namespace
 
 std::string xml_representation(std::string const& text)
 {
+    if (standsForItself(text))
+        return text;
     EncodingConverter const& converter = *EncodingConverter::instance();
     std::vector<unsigned int> escaped;
     for (unsigned int const unit : converter.unicodeNarrowToWide(text)) {

@@ -9,14 +9,16 @@ namespace tarn {
 
 /// Where the media of an edge function is seen, for functions that measure against the mixer.
 ///
-/// Both are set or both are empty; neither is kept alive.
+/// Both are set or both are empty; neither is kept alive. A value, without a lock.
 class TARN_API AuxEdgeModInfo
 {
 public:
+    /// The mixer across which the media is seen.
     void setVisualMixer(boost::weak_ptr<VisualMixer const> const& visualMixer)
     {
         m_visualMixer = visualMixer;
     }
+    /// The media that the function is on.
     void setVisualMedia(boost::weak_ptr<VisualMedia const> const& visualMedia)
     {
         m_visualMedia = visualMedia;

@@ -12,7 +12,7 @@
 namespace tarn {
 
 /// Edge modifications for a clone: those of the original name the original's parameters, and the
-/// clone's must name its own.
+/// clone's must name its own. For edits, under the write lock.
 namespace EdgeModCloneUtil {
 
 /// The first parameter of that name; null if there is none, or it is not one of doubles.
@@ -27,6 +27,7 @@ TARN_API EdgeModification createEdgeMod(Media* target, EdgeModification const& m
 /// business.
 /// @throws TarnMediaLibException when such a parameter of `target` has a modification already
 TARN_API void setupLeftMods(Media* target, Media const& source);
+/// The same for the edge at the end.
 TARN_API void setupRightMods(Media* target, Media const& source);
 
 }  // namespace EdgeModCloneUtil

@@ -1,12 +1,12 @@
 #include "edgemods/EdgeModFunc.h"
 
-#include <ostream>
+#include "datatypes/XmlText.h"
 
 namespace tarn {
 
 void EdgeModFunc::xmlName(XMLable::Options& options) const
 {
-    *options.stream << ident();
+    XmlText(options) << ident();
 }
 
 void EdgeModFunc::xmlAttributes(XMLable::Options&) const {}

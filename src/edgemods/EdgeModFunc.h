@@ -8,7 +8,8 @@
 
 namespace tarn {
 
-/// How a double parameter's value is bent over the first or last stretch of a media.
+/// How a double parameter's value is bent over the first or last stretch of a media. Called by
+/// whoever reads values, on any reading thread: it may read the model and changes nothing.
 class TARN_API EdgeModFunc : public XMLable
 {
 public:
@@ -22,6 +23,7 @@ public:
     /// @param position from 0 to 1 across the edge, and beyond it outside the media
     /// @param value what the parameter stores
     virtual double execute(double position, double value) const = 0;
+    /// Names the function in XML.
     virtual std::string ident() const = 0;
     /// Ignored by functions that need none. Before the function is stored.
     virtual void setAuxInfo(AuxEdgeModInfo const& info);

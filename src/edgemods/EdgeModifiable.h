@@ -21,15 +21,20 @@ class TARN_API EdgeModifiable
 public:
     virtual ~EdgeModifiable() = default;
 
+    /// Edit units from the start; notifies.
     virtual void setLeftEdgeModificationLength(long long length) = 0;
+    /// Edit units back from the end; notifies.
     virtual void setRightEdgeModificationLength(long long length) = 0;
+    /// Edit units, as far as there is room.
     virtual long long leftEdgeModificationLength() const = 0;
+    /// Edit units, as far as there is room.
     virtual long long rightEdgeModificationLength() const = 0;
     /// Copies, in order of adding.
     virtual std::list<EdgeModification> leftEdgeModifications() const = 0;
     virtual std::list<EdgeModification> rightEdgeModifications() const = 0;
     /// @throws TarnMediaLibException "trying to add an edge mod for a parameter already with a mod"
     virtual void addLeftEdgeModification(EdgeModification const& modification) = 0;
+    /// @throws TarnMediaLibException "trying to add an edge mod for a parameter already with a mod"
     virtual void addRightEdgeModification(EdgeModification const& modification) = 0;
     /// @throws TarnMediaLibException "trying to remove non existant left edge mod"
     virtual EdgeModification removeLeftEdgeModification(

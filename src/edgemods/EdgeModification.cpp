@@ -20,7 +20,7 @@ EdgeModification::EdgeModification(EdgeModification const& other)
 EdgeModification& EdgeModification::operator=(EdgeModification const& other)
 {
     // The clone first: nothing has changed when it fails, and `other` may be this.
-    std::unique_ptr<EdgeModFunc> func(other.m_func->clone());
+    boost::shared_ptr<EdgeModFunc> func(other.m_func->clone());
     m_parameter = other.m_parameter;
     m_func.swap(func);
     return *this;
@@ -32,6 +32,11 @@ EdgeModification::EdgeModification(EdgeModification&& other) noexcept = default;
 EdgeModification& EdgeModification::operator=(EdgeModification&& other) noexcept = default;
 
 EdgeModification::~EdgeModification() = default;
+
+bool EdgeModification::isFor(ParameterInterface const* parameter) const
+{
+    return m_parameter.get() == parameter;
+}
 
 double EdgeModification::execute(double position, long long time) const
 {

@@ -6,8 +6,6 @@
 
 #include <boost/shared_ptr.hpp>
 
-#include <memory>
-
 namespace tarn {
 
 /// A function bound to the one parameter object that it bends. A value: every copy has its own
@@ -28,7 +26,10 @@ public:
 
     /// May be null, which no parameter matches.
     boost::shared_ptr<Parameter<double> const> parameter() const { return m_parameter; }
+    bool isFor(ParameterInterface const* parameter) const;
     EdgeModFunc const& func() const { return *m_func; }
+    /// A share in it, for who runs it while the list it stands in may change.
+    boost::shared_ptr<EdgeModFunc const> sharedFunc() const { return m_func; }
 
     /// What the function makes of the stored value.
     /// @param time on the clock of the key frames
@@ -37,7 +38,7 @@ public:
 
 private:
     boost::shared_ptr<Parameter<double> const> m_parameter;
-    std::unique_ptr<EdgeModFunc> m_func;
+    boost::shared_ptr<EdgeModFunc> m_func;
 };
 
 }  // namespace tarn

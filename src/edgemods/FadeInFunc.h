@@ -4,7 +4,7 @@
 
 namespace tarn {
 
-/// From 0 to the value.
+/// From 0 to the value: value x position.
 class TARN_API FadeInFunc : public EdgeModFunc
 {
 public:

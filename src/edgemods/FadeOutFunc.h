@@ -4,7 +4,7 @@
 
 namespace tarn {
 
-/// From the value to 0.
+/// From the value to 0: (1 - position) x value.
 class TARN_API FadeOutFunc : public EdgeModFunc
 {
 public:

@@ -4,7 +4,7 @@
 
 namespace tarn {
 
-/// From a distance beside the value to the value.
+/// From a distance beside the value to the value: value + (1 - position) x distance.
 class TARN_API LinearSlideInFunc : public EdgeModFunc
 {
 public:

@@ -13,13 +13,18 @@ namespace tarn {
 /// Only the crops of the far sides count, and they are the stored ones.
 namespace MixerXSlideFuncUtil {
 
+/// At the media's start, in pixels.
 TARN_API double calcMediaBeginWidth(boost::shared_ptr<VisualMedia const> const& media);
+/// At the media's end, in pixels.
 TARN_API double calcMediaEndWidth(boost::shared_ptr<VisualMedia const> const& media);
+/// At the media's start, in pixels.
 TARN_API double calcMediaBeginHeight(boost::shared_ptr<VisualMedia const> const& media);
+/// At the media's end, in pixels.
 TARN_API double calcMediaEndHeight(boost::shared_ptr<VisualMedia const> const& media);
 
-/// @param time edit units since the media's start
+/// In pixels. @param time edit units since the media's start
 TARN_API double calcMediaWidth(boost::shared_ptr<VisualMedia const> const& media, double time);
+/// In pixels. @param time edit units since the media's start
 TARN_API double calcMediaHeight(boost::shared_ptr<VisualMedia const> const& media, double time);
 
 }  // namespace MixerXSlideFuncUtil

@@ -7,6 +7,10 @@ namespace tarn {
 
 /// From beyond the mixer's left side to the value, for a picture centred on its position.
 ///
+/// value + (1 - position) x (-(W + w) / 2 - value + crop x scale / 2), with the mixer's width W and
+/// the media's width w at its start, in pixels. Kept so: the crop of the far side and the scale are
+/// read at the position, from 0 to 1, taken as a time.
+///
 /// Bends the media's horizontal translation. Takes read locks as it goes.
 class TARN_API MixerXSlideInFunc : public EdgeModFunc
 {

@@ -1,13 +1,12 @@
 #include "edgemods/MixerYSlideInFunc.h"
 
+#include "datatypes/XmlText.h"
 #include "edgemods/MixerXSlideFuncUtil.h"
 #include "parameters/Attribute.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/VectorParam.h"
 #include "timeline/VisualMedia.h"
 #include "timeline/VisualMixer.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -67,7 +66,7 @@ AuxEdgeModInfo const* MixerYSlideInFunc::auxInfo() const
 
 void MixerYSlideInFunc::xmlAttributes(XMLable::Options& options) const
 {
-    *options.stream << " angle=\"" << m_angle << "\"";
+    XmlText(options) << " angle=\"" << m_angle << "\"";
 }
 
 }  // namespace tarn

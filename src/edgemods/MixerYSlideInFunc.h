@@ -7,6 +7,9 @@ namespace tarn {
 
 /// From beyond the mixer's upper side to the value; with an angle of 0, from 0 to the value.
 ///
+/// value + (1 - position) x ((H + h) / 2 - value), with the mixer's height H and the media's height
+/// h at its start, in pixels.
+///
 /// Bends the media's vertical translation. Takes read locks as it goes.
 class TARN_API MixerYSlideInFunc : public EdgeModFunc
 {

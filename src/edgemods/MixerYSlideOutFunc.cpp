@@ -1,6 +1,6 @@
 #include "edgemods/MixerYSlideOutFunc.h"
 
-#include <ostream>
+#include "datatypes/XmlText.h"
 
 namespace tarn {
 
@@ -35,7 +35,7 @@ AuxEdgeModInfo const* MixerYSlideOutFunc::auxInfo() const
 
 void MixerYSlideOutFunc::xmlAttributes(XMLable::Options& options) const
 {
-    *options.stream << " angle=\"" << m_slideIn.angle() << "\"";
+    XmlText(options) << " angle=\"" << m_slideIn.angle() << "\"";
 }
 
 }  // namespace tarn

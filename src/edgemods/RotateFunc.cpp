@@ -1,6 +1,6 @@
 #include "edgemods/RotateFunc.h"
 
-#include <ostream>
+#include "datatypes/XmlText.h"
 
 namespace tarn {
 
@@ -33,7 +33,7 @@ AuxEdgeModInfo const* RotateFunc::auxInfo() const
 
 void RotateFunc::xmlAttributes(XMLable::Options& options) const
 {
-    *options.stream << " numRotations=\"" << m_numRotations << "\"";
+    XmlText(options) << " numRotations=\"" << m_numRotations << "\"";
 }
 
 }  // namespace tarn

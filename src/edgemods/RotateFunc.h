@@ -5,7 +5,7 @@
 
 namespace tarn {
 
-/// From the value through whole turns, in radians.
+/// From the value through whole turns, in radians: value + 2 pi x turns x position.
 ///
 /// On either edge the value itself stands where position is 0.
 class TARN_API RotateFunc : public EdgeModFunc

@@ -1,11 +1,10 @@
 #include "effects/Blur.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
 
 #include <boost/make_shared.hpp>
-
-#include <ostream>
 
 namespace tarn {
 
@@ -45,7 +44,7 @@ boost::shared_ptr<MTVector<boost::shared_ptr<ParameterInterface const>>> Blur::p
 
 void Blur::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Blur";
+    XmlText(options) << "Blur";
 }
 
 }  // namespace tarn

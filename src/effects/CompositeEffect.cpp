@@ -1,12 +1,11 @@
 #include "effects/CompositeEffect.h"
 
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "parameters/MTVector.h"
 #include "parameters/ParameterInterface.h"
 
 #include <boost/make_shared.hpp>
-
-#include <ostream>
 
 namespace tarn {
 
@@ -47,12 +46,12 @@ CompositeEffect::parameterVector() const
 
 void CompositeEffect::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "CompositeEffect";
+    XmlText(options) << "CompositeEffect";
 }
 
 void CompositeEffect::xmlAttributes(XMLable::Options& options) const
 {
-    *options.stream << "name=\"" << xml_representation(name()) << "\"";
+    XmlText(options) << "name=\"" << xml_representation(name()) << "\"";
 }
 
 void CompositeEffect::xmlBody(XMLable::Options&, int) const {}

@@ -4,7 +4,7 @@
 
 namespace tarn {
 
-/// A named marker without parameters; what it stands for, the host knows.
+/// A named marker without parameters; what it stands for, the host knows. Locks as Effect.
 class TARN_API CompositeEffect : public Effect
 {
 public:

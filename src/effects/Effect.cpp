@@ -1,10 +1,9 @@
 #include "effects/Effect.h"
 
+#include "datatypes/XmlText.h"
 #include "effects/EffectTimeConverter.h"
 #include "parameters/ParameterInterface.h"
 #include "project/ReadWriteMutex.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -57,17 +56,17 @@ int Effect::numParameters() const
 
 void Effect::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Effect";
+    XmlText(options) << "Effect";
 }
 
 void Effect::xmlAttributes(XMLable::Options&) const {}
 
 void Effect::xmlBody(XMLable::Options& options, int indent) const
 {
-    *options.stream << genIndent(indent) << "<Parameters>\n";
+    XmlText(options).indent(indent) << "<Parameters>\n";
     for (boost::shared_ptr<ParameterInterface> const& parameter : parameters())
         parameter->toXML(options, indent + 1, "");
-    *options.stream << genIndent(indent) << "</Parameters>\n";
+    XmlText(options).indent(indent) << "</Parameters>\n";
 }
 
 void Effect::setParentEffectable(boost::weak_ptr<Effectable> const& parent)

@@ -10,7 +10,7 @@
 
 namespace tarn {
 
-/// What an effect of some name is made of: its parameters, in order.
+/// What an effect of some name is made of: its parameters, in order. A value, without a lock.
 class TARN_API EffectDef : public TarnObject
 {
 public:

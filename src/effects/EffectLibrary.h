@@ -33,14 +33,20 @@ public:
     EffectLibrary(EffectLibrary const&) = delete;
     EffectLibrary& operator=(EffectLibrary const&) = delete;
 
+    /// Whether there is a definition of that name, of any kind.
     bool hasEffect(std::string const& name) const;
     /// @throws TarnMediaLibException "unrecognized name effect"
     EffectDef const& effectDef(std::string const& name) const;
 
+    /// Whether the list of that kind has the name, here and below; none throws.
     bool isVisualTransitionName(std::string const& name) const;
+    /// False: no catalogue tells of such.
     bool isSourceOverlayName(std::string const& name) const;
+    /// Whether visualEffects() has it.
     bool isVisualEffectName(std::string const& name) const;
+    /// False: generators are in no list.
     bool isVisualGeneratorName(std::string const& name) const;
+    /// Whether screenRecordingEffects() has it.
     bool isScreenRecordingEffect(std::string const& name) const;
 
     std::vector<std::string> const& visualTransitions() const { return m_visualTransitions; }

@@ -36,6 +36,7 @@ public:
     virtual boost::shared_ptr<Effect> effectAtIndex(int index) = 0;
     /// @throws IndexException(index)
     virtual boost::shared_ptr<Effect const> effectAtIndex(int index) const = 0;
+    /// Null entries count.
     virtual int numEffects() const = 0;
 
 protected:

@@ -28,6 +28,7 @@ public:
 
     /// Called once, before anything else is asked.
     virtual void loadAllPlugIns() = 0;
+    /// In the catalogue's own order.
     virtual std::vector<std::string> filterNamesInCategory(Category category) const = 0;
     /// In the filter's own order.
     virtual std::vector<std::string> inputKeys(std::string const& filter) const = 0;
@@ -39,7 +40,9 @@ public:
     virtual double defaultNumber(std::string const& filter, std::string const& key) const = 0;
     /// Of a "CIVector".
     virtual Point defaultVector(std::string const& filter, std::string const& key) const = 0;
+    /// The largest number that a user should be offered.
     virtual double sliderMaximum(std::string const& filter, std::string const& key) const = 0;
+    /// The smallest number that a user should be offered.
     virtual double sliderMinimum(std::string const& filter, std::string const& key) const = 0;
 
 protected:

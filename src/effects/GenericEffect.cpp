@@ -1,6 +1,7 @@
 #include "effects/GenericEffect.h"
 
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "effects/EffectLibrary.h"
 #include "effects/ParamGenerator.h"
 #include "parameters/MTVector.h"
@@ -8,8 +9,6 @@
 #include "project/ReadWriteMutex.h"
 
 #include <boost/make_shared.hpp>
-
-#include <ostream>
 
 namespace tarn {
 
@@ -99,24 +98,24 @@ GenericEffect::parameterVector() const
 
 void GenericEffect::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "GenericEffect";
+    XmlText(options) << "GenericEffect";
 }
 
 void GenericEffect::xmlAttributes(XMLable::Options& options) const
 {
     // Kept so: blanks around the equals sign, unlike everywhere else.
-    *options.stream << "name = \"" << xml_representation(name()) << "\"";
+    XmlText(options) << "name = \"" << xml_representation(name()) << "\"";
 }
 
 void GenericEffect::xmlBody(XMLable::Options& options, int indent) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    *options.stream << genIndent(indent) << "<Parameters>\n";
+    XmlText(options).indent(indent) << "<Parameters>\n";
     for (ParameterMap::value_type const& entry : m_parameterMap) {
         if (entry.second)
             entry.second->toXML(options, indent + 1, " name=\"" + entry.first + "\"");
     }
-    *options.stream << genIndent(indent) << "</Parameters>\n";
+    XmlText(options).indent(indent) << "</Parameters>\n";
 }
 
 }  // namespace tarn

@@ -27,6 +27,8 @@ public:
     boost::shared_ptr<ParameterInterface> parameterWithName(std::string const& name);
     boost::shared_ptr<ParameterInterface const> parameterWithName(std::string const& name) const;
 
+    /// The parameters by name, null entries included. The const forms hold the read lock for their
+    /// life.
     ParameterMap::iterator parameterBegin();
     ParameterMap::iterator parameterEnd();
     ConstIterator<ParameterMap> parameterBegin() const;

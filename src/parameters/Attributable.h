@@ -10,6 +10,7 @@ class TARN_API Attributable
 public:
     virtual ~Attributable();
 
+    /// Those that the XML shows.
     virtual int numAttributes() const = 0;
 
 protected:

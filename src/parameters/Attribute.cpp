@@ -1,9 +1,8 @@
 #include "parameters/Attribute.h"
 
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "project/ReadWriteMutex.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -67,18 +66,28 @@ Attribute<T>* Attribute<T>::clone() const
 template <class T>
 void Attribute<T>::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Attribute";
+    XmlText(options) << "Attribute";
 }
 
 template <class T>
 void Attribute<T>::xmlAttributes(XMLable::Options& options) const
 {
-    *options.stream << "value=\"" << printable(m_value) << '"';
+    XmlText(options) << "value=\"" << printable(m_value) << '"';
 }
 
 template <class T>
 void Attribute<T>::xmlBody(XMLable::Options&, int) const
 {}
+
+template <class T>
+void Attribute<T>::xmlBeforeFirstUse(XMLable::Options& options, int indent,
+                                     std::string const& label, T const& value, unsigned int ident)
+{
+    XmlText out(options);
+    out.indent(indent) << "<Attribute id=\"" << ident << "\" value=\"" << printable(value) << "\" "
+                       << label << ">\n";
+    out.indent(indent) << "</Attribute>\n";
+}
 
 template class Attribute<float>;
 template class Attribute<double>;

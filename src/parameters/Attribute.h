@@ -38,6 +38,9 @@ public:
     void xmlName(XMLable::Options& options) const override;
     void xmlAttributes(XMLable::Options& options) const override;
     void xmlBody(XMLable::Options& options, int indent) const override;
+    /// The element of one that was not made yet, with what its constructor would be given.
+    static void xmlBeforeFirstUse(XMLable::Options& options, int indent, std::string const& label,
+                                  T const& value, unsigned int ident);
 
 private:
     T m_value;

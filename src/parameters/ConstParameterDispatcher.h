@@ -6,6 +6,10 @@ namespace tarn {
 
 /// Learns the type of a parameter that it may only read. The host implements it; the library only
 /// calls it.
+///
+/// Called once, on the asking thread, with no lock taken for it and nothing waiting for its return:
+/// it may edit if its thread may, destroy itself or what it was given, and throw, which passes to
+/// whoever asked.
 class TARN_API ConstParameterDispatcher
 {
 public:

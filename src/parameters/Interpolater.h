@@ -9,7 +9,10 @@ namespace tarn {
 
 /// How a value is made between two key frames. Immutable, so all threads may share one.
 ///
-/// A host may derive its own, with an id of its own for the XML.
+/// A host may derive its own, with an id of its own for the XML. It is called with a read lock held
+/// (or the write lock, by a command or an observer that asks for a value). What it throws passes to
+/// whoever asked for the value; the lock is given back, and nothing has changed. It may read. It
+/// must not edit: its thread, which only reads, would wait for ever.
 template <class T>
 class TARN_API Interpolater : public TarnObject
 {

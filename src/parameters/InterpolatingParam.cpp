@@ -1,58 +1,80 @@
 #include "parameters/InterpolatingParam.h"
 
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "parameters/ConstParameterDispatcher.h"
 #include "parameters/LeftParameter.h"
 #include "parameters/LinearInterpolater.h"
 #include "parameters/MTVector.h"
 #include "parameters/ParameterDispatcher.h"
+#include "parameters/XmlValue.h"
 #include "project/ReadWriteMutex.h"
 
-#include <ostream>
+#include <cstring>
 #include <sstream>
+#include <type_traits>
 #include <utility>
 
 namespace tarn {
+
+namespace {
+
+/// To the last bit, the sign of zero included. Only numbers are ever compared.
+template <class T>
+bool isSameNumber(T const& a, T const& b)
+{
+    if constexpr (std::is_arithmetic_v<T>)
+        return std::memcmp(&a, &b, sizeof(T)) == 0;
+    else
+        return false;
+}
+
+template <class P>
+boost::shared_ptr<P> cloneOf(P const* parameter)
+{
+    return parameter ? boost::shared_ptr<P>(parameter->clone()) : boost::shared_ptr<P>();
+}
+
+}  // namespace
 
 template <class T>
 InterpolatingParam<T>::InterpolatingParam(boost::weak_ptr<ThreadSafe const> const& project,
                                           std::string const& name)
     : ParameterImpl<T>(project, name)
-    , m_interpolaterIdent(ReservedIdent::draw())
-    , m_interpolaterAttributeIdent(ReservedIdent::draw())
 {}
+
+template <class T>
+InterpolatingParam<T>::InterpolatingParam(boost::weak_ptr<ThreadSafe const> const& project,
+                                          std::string const& name, T const& initial,
+                                          ReservedIdent* idents)
+    : XMLIdentified(idents[0])
+    , ParameterImpl<T>(project, name, std::move(idents[1]))
+    , m_interpolater(idents + 2)
+{
+    Subject::NotifyDisabler const silence(this);
+    this->addKeyFrame(0, initial);
+}
 
 template <class T>
 InterpolatingParam<T>::InterpolatingParam(InterpolatingParam const& other)
     : XMLIdentified(other)
     , ParameterImpl<T>(other)
     , Parametric(other)
-    , m_interpolaterIdent(other.m_interpolater.isMade() ? ReservedIdent() : ReservedIdent::draw())
-    , m_interpolaterAttributeIdent(m_interpolaterIdent.isHeld() ? ReservedIdent::draw()
-                                                                : ReservedIdent())
-    , m_interpolater(m_interpolaterIdent.isHeld()
-                         ? nullptr
-                         : boost::shared_ptr<InterpolaterParam>(other.interpolaters()->clone()))
+    , m_interpolater(cloneOf(other.m_interpolater.ifMade()))
 {}
-
-template <class T>
-boost::shared_ptr<LeftParameter<boost::shared_ptr<Interpolater<T>>>>
-InterpolatingParam<T>::newInterpolaters() const
-{
-    boost::shared_ptr<InterpolaterParam> const made(
-        new InterpolaterParam(this->projectMutex(), "interpolater", m_interpolaterIdent,
-                              std::move(m_interpolaterAttributeIdent)));
-    // Nobody can be observing it yet.
-    Subject::NotifyDisabler const silence(made.get());
-    made->addKeyFrame(0, LinearInterpolater<T>::instance());
-    return made;
-}
 
 template <class T>
 boost::shared_ptr<LeftParameter<boost::shared_ptr<Interpolater<T>>>> const&
 InterpolatingParam<T>::interpolaters() const
 {
-    return m_interpolater.get([this] { return newInterpolaters(); });
+    return m_interpolater.get([this](ReservedIdent* idents) {
+        boost::shared_ptr<InterpolaterParam> const made(new InterpolaterParam(
+            this->projectMutex(), "interpolater", idents[0], std::move(idents[1])));
+        // Nobody can be observing it yet.
+        Subject::NotifyDisabler const silence(made.get());
+        made->addKeyFrame(0, LinearInterpolater<T>::instance());
+        return made;
+    });
 }
 
 template <class T>
@@ -60,8 +82,8 @@ std::string InterpolatingParam<T>::description() const
 {
     ReadWriteMutex::ScopedReadLock lock(this->mutex());
     std::ostringstream out;
-    for (std::size_t i = 0; i < this->times().size(); ++i)
-        out << this->times()[i] << ", " << this->frames()[i].get() << '\n';
+    for (std::size_t i = 0; i < this->frames().size(); ++i)
+        out << this->frames().time(i) << ", " << this->frames().frame(i).get() << '\n';
     return out.str();
 }
 
@@ -81,10 +103,25 @@ void InterpolatingParam<T>::receiveDispatcher(ConstParameterDispatcher* dispatch
 template <class T>
 boost::shared_ptr<Interpolater<T>> InterpolatingParam<T>::interpolaterAtTime(double time) const
 {
-    if (m_interpolater.isMade())
-        return interpolaters()->valueAtTime(time);
+    if (InterpolaterParam const* const interpolaters = m_interpolater.ifMade())
+        return interpolaters->valueAtTime(time);
     static_cast<void>(this->mutex());  // throws for a dead project
     return LinearInterpolater<T>::instance();
+}
+
+/// Without a share in it where the parameter keeps it anyway.
+template <class T>
+Interpolater<T> const* InterpolatingParam<T>::interpolaterNow(
+    double time, boost::shared_ptr<Interpolater<T>>& owner) const
+{
+    static boost::shared_ptr<Interpolater<T>> const& s_linear = LinearInterpolater<T>::instance();
+    InterpolaterParam const* const interpolaters = m_interpolater.ifMade();
+    if (!interpolaters)
+        return s_linear.get();
+    if (boost::shared_ptr<Interpolater<T>> const* const only = interpolaters->onlyValue())
+        return only->get();
+    owner = interpolaters->valueAtTime(time);
+    return owner.get();
 }
 
 template <class T>
@@ -148,36 +185,72 @@ std::string InterpolatingParam<T>::ident() const
 template <class T>
 void InterpolatingParam<T>::xmlBody(XMLable::Options& options, int indent) const
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<Parameters>\n";
-    xmlOfInterpolaters(options, indent + 1);
-    out << XMLable::genIndent(indent) << "</Parameters>\n";
+    XmlText out(options);
+    out.indent(indent) << "<Parameters>\n";
+    typename LateObject<InterpolaterParam, 2>::Idents idents;
+    if (m_interpolater.waitingIdents(idents))
+        xmlOfLinear(options, indent + 1, idents[0]);
+    else
+        m_interpolater.ifMade()->toXML(options, indent + 1, "name=\"interpolater\"");
+    out.indent(indent) << "</Parameters>\n";
     this->xmlOfKeyframes(options, indent);
 }
 
-/// The element is the same whether the parameter exists yet or not.
 template <class T>
-void InterpolatingParam<T>::xmlOfInterpolaters(XMLable::Options& options, int indent) const
+bool InterpolatingParam<T>::isShownAtAllTimes(Parametric const& owner, T& value) const
 {
-    if (m_interpolater.isMade()) {
-        interpolaters()->toXML(options, indent, "name=\"interpolater\"");
-        return;
-    }
-    std::ostream& out = *options.stream;
-    std::string const margin = XMLable::genIndent(indent);
-    out << margin << "<Parameter id=\"" << m_interpolaterIdent.ident()
-        << "\"  name=\"interpolater\">\n";
-    out << margin << " <Keyframes>\n";
-    out << margin << "  <Keyframe time=\"" << 0 << "\" value=\""
-        << xml_representation(LinearInterpolater<T>::instance()->id()) << "\"/>\n";
-    out << margin << " </Keyframes>\n";
-    out << margin << "</Parameter>\n";
+    ReadWriteMutex::ScopedReadLock lock(this->mutex());
+    T const* const only = this->onlyValue();
+    if (!only || !owner.showsAsStored(this))
+        return false;
+    value = *only;
+    return true;
+}
+
+template <class T>
+bool InterpolatingParam<T>::isUntouched(T const& initial) const
+{
+    return this->frames().size() == 1 && this->frames().time(0) == 0 &&
+           isSameNumber(this->frames().frame(0)->value(), initial) && !m_interpolater.ifMade() &&
+           !this->isIdentAttributeMade();
+}
+
+template <class T>
+void InterpolatingParam<T>::xmlBeforeFirstUse(XMLable::Options& options, int indent,
+                                              std::string const& label, T const& initial,
+                                              unsigned int const* idents)
+{
+    XmlText out(options);
+    out.indent(indent) << "<InterpolatingParam id=\"" << idents[0] << "\"  " << label << ">\n";
+    out.indent(indent + 1) << "<Parameters>\n";
+    xmlOfLinear(options, indent + 2, idents[2]);
+    out.indent(indent + 1) << "</Parameters>\n";
+    out.indent(indent + 1) << "<Keyframes>\n";
+    out.indent(indent + 2) << "<Keyframe time=\"" << 0 << "\" value=\"";
+    writeValue(out, KeyFrame<T>(0, initial));
+    out << "\"/>\n";
+    out.indent(indent + 1) << "</Keyframes>\n";
+    out.indent(indent) << "</InterpolatingParam>\n";
+}
+
+/// The element of the interpolaters' parameter while it is not made.
+template <class T>
+void InterpolatingParam<T>::xmlOfLinear(XMLable::Options& options, int indent, unsigned int ident)
+{
+    XmlText out(options);
+    out.indent(indent) << "<Parameter id=\"" << ident << "\"  name=\"interpolater\">\n";
+    out.indent(indent + 1) << "<Keyframes>\n";
+    out.indent(indent + 2) << "<Keyframe time=\"" << 0 << "\" value=\""
+                           << xml_representation(LinearInterpolater<T>::instance()->id())
+                           << "\"/>\n";
+    out.indent(indent + 1) << "</Keyframes>\n";
+    out.indent(indent) << "</Parameter>\n";
 }
 
 template <class T>
 void InterpolatingParam<T>::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "InterpolatingParam";
+    XmlText(options) << "InterpolatingParam";
 }
 
 template <class T>

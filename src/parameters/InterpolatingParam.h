@@ -12,6 +12,10 @@ class TARN_API InterpolatingParam : public ParameterImpl<T>, public Parametric
 {
 public:
     InterpolatingParam(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name);
+    /// With one key frame, at time 0, and under 4 idents that were held back for it, in the order
+    /// in which it would have drawn them. Notifies nobody.
+    InterpolatingParam(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name,
+                       T const& initial, ReservedIdent* idents);
     /// The copied parameter's read lock is held by the caller; clone() takes it.
     InterpolatingParam(InterpolatingParam const& other);
 
@@ -35,21 +39,29 @@ public:
         const override;
 
     std::string ident() const override;
+    /// The one value there is, where neither time nor `owner` can change it; otherwise false.
+    bool isShownAtAllTimes(Parametric const& owner, T& value) const;
+    /// Whether nothing tells it from one just made with that value. The caller holds the read lock.
+    bool isUntouched(T const& initial) const;
+    /// The element of one that was not made yet, with what its constructor would be given.
+    static void xmlBeforeFirstUse(XMLable::Options& options, int indent, std::string const& label,
+                                  T const& initial, unsigned int const* idents);
     void xmlBody(XMLable::Options& options, int indent) const override;
     void xmlName(XMLable::Options& options) const override;
     void xmlAttributes(XMLable::Options& options) const override;
+
+protected:
+    Interpolater<T> const* interpolaterNow(
+        double time, boost::shared_ptr<Interpolater<T>>& owner) const override;
 
 private:
     using InterpolaterParam = LeftParameter<boost::shared_ptr<Interpolater<T>>>;
 
     boost::shared_ptr<InterpolaterParam> const& interpolaters() const;
-    boost::shared_ptr<InterpolaterParam> newInterpolaters() const;
-    void xmlOfInterpolaters(XMLable::Options& options, int indent) const;
+    static void xmlOfLinear(XMLable::Options& options, int indent, unsigned int ident);
 
-    // Made when someone asks for it: until then it is known to say linear at all times.
-    mutable ReservedIdent m_interpolaterIdent;
-    mutable ReservedIdent m_interpolaterAttributeIdent;
-    MadeOnFirstUse<InterpolaterParam> m_interpolater;
+    // Until someone asks for it, it is known to say linear at all times.
+    LateObject<InterpolaterParam, 2> m_interpolater;
 };
 
 #define TARN_DECLARE(T) extern template class TARN_API InterpolatingParam<T>;

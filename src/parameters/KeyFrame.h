@@ -25,6 +25,7 @@ public:
     KeyFrame* clone() const override { return new KeyFrame(*this); }
     std::string description() const override { return std::string(); }
 
+    /// On the parameter's clock.
     long long time() const { return m_time; }
     T const& value() const { return m_value; }
     /// Without a notification; Parameter::changeKeyFrame sends one.

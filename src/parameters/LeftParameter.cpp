@@ -1,11 +1,11 @@
 #include "parameters/LeftParameter.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/ConstParameterDispatcher.h"
 #include "parameters/LeftInterpolater.h"
 #include "parameters/ParameterDispatcher.h"
 #include "project/ReadWriteMutex.h"
 
-#include <ostream>
 #include <utility>
 
 namespace tarn {
@@ -81,7 +81,7 @@ void LeftParameter<T>::xmlBody(XMLable::Options& options, int indent) const
 template <class T>
 void LeftParameter<T>::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Parameter";
+    XmlText(options) << "Parameter";
 }
 
 template <class T>

@@ -16,7 +16,7 @@ namespace tarn {
 /// cannot go away.
 ///
 /// Keep it in a local, and never across Project::execute, undo or redo: asking for the write lock
-/// while holding only this read lock waits for ever.
+/// while holding only this read lock waits for ever, or throws if the lock is strict.
 template <class T>
 class TARN_API MTVector
 {
@@ -44,7 +44,9 @@ public:
     T& at(std::size_t index) { return m_elements.at(index); }
     T const& at(std::size_t index) const { return m_elements.at(index); }
 
+    /// Appends, as std::vector does.
     void push_back(T const& element) { m_elements.push_back(element); }
+    /// Makes room, as std::vector does.
     void reserve(std::size_t capacity) { m_elements.reserve(capacity); }
 
 private:

@@ -42,9 +42,11 @@ public:
     /// Between key frames what the interpolater at that time makes of both neighbours; before the
     /// first and after the last their values. @throws KeyFrameException(0) when there is none
     virtual T valueAtTime(double time) const = 0;
+    /// How values are made from that time to the next key frame.
     virtual boost::shared_ptr<Interpolater<T>> interpolaterAtTime(double time) const = 0;
     /// The stored frame itself.
     virtual boost::shared_ptr<KeyFrame<T>> keyframeAtTime(long long time) const = 0;
+    /// At exactly that time.
     virtual bool hasKeyFrameAtTime(long long time) const = 0;
     /// Both ends of the range count.
     virtual bool hasKeyFrameInRange(Range<long long> const& range) const = 0;

@@ -2,6 +2,7 @@
 
 #include "datatypes/ClampedCast.h"
 #include "datatypes/SaturatedArithmetic.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/KeyFrameException.h"
 #include "parameters/Interpolater.h"
 #include "parameters/XmlValue.h"
@@ -11,7 +12,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <ostream>
+#include <typeinfo>
 #include <utility>
 
 namespace tarn {
@@ -19,18 +20,33 @@ namespace tarn {
 namespace {
 
 /// How many of the ascending times lie before `time`. Without a jump that depends on them, as at
-/// random times the processor would guess every second one wrong.
-std::size_t countBefore(std::vector<long long> const& times, long long time)
+/// random times the processor would guess every second one wrong; and three at a time, as it can
+/// fetch them together.
+std::size_t countBefore(long long const* times, std::size_t count, long long time)
 {
-    long long const* base = times.data();
-    std::size_t length = times.size();
-    while (length > 1) {
-        std::size_t const half = length / 2;
-        base += base[half - 1] < time ? half : 0;
-        length -= half;
+    std::size_t const few = 8;
+    auto const isBefore = [time](long long other) { return std::size_t(other < time); };
+    long long const* base = times;
+    while (count > few) {
+        std::size_t const quarter = count / 4;
+        std::size_t const passed = isBefore(base[quarter - 1]) + isBefore(base[2 * quarter - 1]) +
+                                   isBefore(base[3 * quarter - 1]);
+        base += passed * quarter;
+        count -= 3 * quarter;
     }
-    std::size_t const before = static_cast<std::size_t>(base - times.data());
-    return length == 1 && *base < time ? before + 1 : before;
+    std::size_t before = static_cast<std::size_t>(base - times);
+    for (std::size_t i = 0; i < count; ++i)
+        before += isBefore(base[i]);
+    return before;
+}
+
+/// A copy of what a frame's class makes of itself; in one piece where that is the plain one.
+template <class T>
+boost::shared_ptr<KeyFrame<T>> copyOf(KeyFrame<T> const& frame)
+{
+    if (typeid(frame) == typeid(KeyFrame<T>))
+        return boost::make_shared<KeyFrame<T>>(frame);
+    return boost::shared_ptr<KeyFrame<T>>(frame.clone());
 }
 
 }  // namespace
@@ -43,11 +59,12 @@ ParameterImpl<T>::ParameterImpl(boost::weak_ptr<ThreadSafe const> const& project
 
 template <class T>
 ParameterImpl<T>::ParameterImpl(ParameterImpl const& other)
-    : XMLIdentified(other), Parameter<T>(other), m_times(other.m_times)
+    : XMLIdentified(other), Parameter<T>(other)
 {
-    m_frames.reserve(other.m_frames.size());
-    for (FramePointer const& frame : other.m_frames)
-        m_frames.push_back(FramePointer(frame->clone()));
+    std::size_t const count = other.m_frames.size();
+    m_frames.reserve(count);
+    for (std::size_t i = 0; i < count; ++i)
+        m_frames.insert(i, other.m_frames.time(i), copyOf(*other.m_frames.frame(i)));
 }
 
 // Edits. Each checks, makes room, changes and only then notifies, so that a throw changes nothing.
@@ -73,7 +90,7 @@ void ParameterImpl<T>::addKeyFrame(boost::shared_ptr<KeyFrame<T>> const& frame)
 template <class T>
 T ParameterImpl<T>::changeKeyFrame(long long time, T const& value)
 {
-    KeyFrame<T>& frame = *m_frames[indexOf(time)];
+    KeyFrame<T>& frame = *m_frames.frame(indexOf(time));
     T const old = frame.value();
     frame.setValue(value);
     this->notify();
@@ -84,12 +101,12 @@ template <class T>
 boost::shared_ptr<KeyFrame<T>> ParameterImpl<T>::changeKeyFrame(
     long long time, boost::shared_ptr<KeyFrame<T>> const& frame)
 {
-    FramePointer& place = m_frames[indexOf(time)];
+    std::size_t const index = indexOf(time);
     if (!frame)
         throw KeyFrameException(time);
-    FramePointer const old = place;
-    place = frame;
-    place->setTime(time);
+    FramePointer const old = m_frames.frame(index);
+    m_frames.replace(index, frame);
+    frame->setTime(time);
     this->notify();
     return old;
 }
@@ -97,10 +114,9 @@ boost::shared_ptr<KeyFrame<T>> ParameterImpl<T>::changeKeyFrame(
 template <class T>
 T ParameterImpl<T>::removeKeyFrame(long long time)
 {
-    std::ptrdiff_t const index = static_cast<std::ptrdiff_t>(indexOf(time));
-    T const old = m_frames[static_cast<std::size_t>(index)]->value();
-    m_times.erase(m_times.begin() + index);
-    m_frames.erase(m_frames.begin() + index);
+    std::size_t const index = indexOf(time);
+    T const old = m_frames.frame(index)->value();
+    m_frames.erase(index);
     this->notify();
     return old;
 }
@@ -110,9 +126,8 @@ void ParameterImpl<T>::moveKeyFrame(long long from, long long to)
 {
     std::size_t const index = indexOf(from);
     requireFree(to);
-    FramePointer const frame = m_frames[index];
-    m_times.erase(m_times.begin() + static_cast<std::ptrdiff_t>(index));
-    m_frames.erase(m_frames.begin() + static_cast<std::ptrdiff_t>(index));
+    FramePointer const frame = m_frames.frame(index);
+    m_frames.erase(index);
     frame->setTime(to);
     insertFrame(to, frame);
     this->notify();
@@ -122,19 +137,17 @@ template <class T>
 void ParameterImpl<T>::moveKeyframes(long long delta)
 {
     // All of them at once, so that old and new times may overlap.
-    std::vector<long long> movedTimes;
-    std::vector<FramePointer> movedFrames;
-    movedTimes.reserve(m_times.size());
-    movedFrames.reserve(m_times.size());
-    for (std::size_t i = 0; i < m_times.size(); ++i) {
-        long long moved = 0;
-        if (__builtin_add_overflow(m_times[i], delta, &moved))
-            throw KeyFrameException(m_times[i]);
-        movedTimes.push_back(moved);
-        movedFrames.push_back(FramePointer(new KeyFrame<T>(moved, m_frames[i]->value())));
+    std::size_t const count = m_frames.size();
+    KeyFrames<T> moved;
+    moved.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        long long time = 0;
+        if (__builtin_add_overflow(m_frames.time(i), delta, &time))
+            throw KeyFrameException(m_frames.time(i));
+        T const& value = m_frames.frame(i)->value();
+        moved.insert(i, time, boost::make_shared<KeyFrame<T>>(time, value));
     }
-    m_times.swap(movedTimes);
-    m_frames.swap(movedFrames);
+    m_frames.swap(moved);
     this->notify();
 }
 
@@ -144,23 +157,27 @@ template <class T>
 T ParameterImpl<T>::valueAtTime(double time) const
 {
     ReadWriteMutex::ScopedReadLock lock(this->mutex());
-    if (m_times.empty())
+    if (T const* const only = onlyValue())
+        return *only;
+    std::size_t const count = m_frames.size();
+    if (count == 0)
         throw KeyFrameException(0);
-    if (m_times.size() == 1 || time < static_cast<double>(m_times.front()))
-        return m_frames.front()->value();
-    if (time > static_cast<double>(m_times.back()))
-        return m_frames.back()->value();
+    long long const* const times = m_frames.times();
+    if (time < static_cast<double>(times[0]))
+        return m_frames.frame(0)->value();
+    if (time > static_cast<double>(times[count - 1]))
+        return m_frames.frame(count - 1)->value();
     if (time != time)  // not-a-number
-        return m_frames.front()->value();
+        return m_frames.frame(0)->value();
 
     // From here on the time lies between two key frames, and so within 64 bits.
     long long const whole = clampedTruncate(time);
     bool const isPastWhole = time > static_cast<double>(whole);
     if (isPastWhole)
-        return valueBetween(firstIndexAfter(whole), time);
-    std::size_t const right = firstIndexNotBefore(whole);
-    if (right < m_times.size() && time == static_cast<double>(m_times[right]))
-        return m_frames[right]->value();
+        return valueBetween(countBefore(times, count, whole + 1), time);
+    std::size_t const right = countBefore(times, count, whole);
+    if (right < count && time == static_cast<double>(times[right]))
+        return m_frames.frame(right)->value();
     return valueBetween(right, time);
 }
 
@@ -168,23 +185,35 @@ T ParameterImpl<T>::valueAtTime(double time) const
 template <class T>
 T ParameterImpl<T>::valueBetween(std::size_t right, double time) const
 {
+    long long const* const times = m_frames.times();
+    FramePointer const* const frames = m_frames.frames();
+    std::size_t const count = m_frames.size();
     // Times that a double cannot tell apart may lead to either end.
-    if (right == m_times.size())
-        return m_frames.back()->value();
+    if (right == count)
+        return frames[count - 1]->value();
     if (right == 0)
-        return m_frames.front()->value();
+        return frames[0]->value();
 
     std::size_t const left = right - 1;
-    T const& leftValue = m_frames[left]->value();
-    boost::shared_ptr<Interpolater<T>> const interpolater = this->interpolaterAtTime(time);
+    T const& leftValue = frames[left]->value();
+    boost::shared_ptr<Interpolater<T>> owner;
+    Interpolater<T> const* const interpolater = interpolaterNow(time, owner);
     if (!interpolater)
         return leftValue;
-    unsigned long long const distance = static_cast<unsigned long long>(m_times[right]) -
-                                        static_cast<unsigned long long>(m_times[left]);
+    unsigned long long const distance = static_cast<unsigned long long>(times[right]) -
+                                        static_cast<unsigned long long>(times[left]);
     // Kept so: the span goes through float, which sets the last digits of every blended value.
     float const span = static_cast<float>(distance);
-    double const position = (time - static_cast<double>(m_times[left])) / span;
-    return interpolater->interpolate(leftValue, m_frames[right]->value(), position);
+    double const position = (time - static_cast<double>(times[left])) / span;
+    return interpolater->interpolate(leftValue, frames[right]->value(), position);
+}
+
+template <class T>
+Interpolater<T> const* ParameterImpl<T>::interpolaterNow(
+    double time, boost::shared_ptr<Interpolater<T>>& owner) const
+{
+    owner = this->interpolaterAtTime(time);
+    return owner.get();
 }
 
 template <class T>
@@ -200,14 +229,14 @@ template <class T>
 boost::shared_ptr<KeyFrame<T>> ParameterImpl<T>::keyframeAtTime(long long time) const
 {
     ReadWriteMutex::ScopedReadLock lock(this->mutex());
-    return m_frames[indexOf(time)];
+    return m_frames.frame(indexOf(time));
 }
 
 template <class T>
 bool ParameterImpl<T>::hasKeyFrameAtTime(long long time) const
 {
     ReadWriteMutex::ScopedReadLock lock(this->mutex());
-    return std::binary_search(m_times.begin(), m_times.end(), time);
+    return isTaken(time);
 }
 
 template <class T>
@@ -216,48 +245,51 @@ bool ParameterImpl<T>::hasKeyFrameInRange(Range<long long> const& range) const
     ReadWriteMutex::ScopedReadLock lock(this->mutex());
     std::size_t const index = firstIndexNotBefore(range.start);
     // The end may lie beyond 64 bits; saturated, it still has every key frame before it.
-    return index < m_times.size() && m_times[index] <= range.end();
+    return index < m_frames.size() && m_frames.time(index) <= range.end();
 }
 
 template <class T>
 int ParameterImpl<T>::numKeyFrames() const
 {
-    return static_cast<int>(m_times.size());
+    return static_cast<int>(m_frames.size());
 }
 
 template <class T>
 long long ParameterImpl<T>::firstKeyFrameTime() const
 {
-    return m_times.empty() ? std::numeric_limits<long long>::max() : m_times.front();
+    return m_frames.empty() ? std::numeric_limits<long long>::max() : m_frames.time(0);
 }
 
 template <class T>
 long long ParameterImpl<T>::previousKeyFrameTime(long long time) const
 {
     std::size_t const index = firstIndexNotBefore(time);
-    return index == 0 ? std::numeric_limits<long long>::min() : m_times[index - 1];
+    return index == 0 ? std::numeric_limits<long long>::min() : m_frames.time(index - 1);
 }
 
 template <class T>
 long long ParameterImpl<T>::nextKeyFrameTime(long long time) const
 {
     std::size_t const index = firstIndexAfter(time);
-    return index == m_times.size() ? std::numeric_limits<long long>::max() : m_times[index];
+    return index == m_frames.size() ? std::numeric_limits<long long>::max() : m_frames.time(index);
 }
 
 template <class T>
 Range<long long> ParameterImpl<T>::keyframeRange() const
 {
     ReadWriteMutex::ScopedReadLock lock(this->mutex());
-    if (m_times.empty())
+    if (m_frames.empty())
         throw KeyFrameException(0);
-    return Range<long long>(m_times.front(), saturatedDifference(m_times.back(), m_times.front()));
+    long long const first = m_frames.time(0);
+    long long const last = m_frames.time(m_frames.size() - 1);
+    return Range<long long>(first, saturatedDifference(last, first));
 }
 
 template <class T>
 boost::shared_ptr<std::vector<long long>> ParameterImpl<T>::keyframeTimes() const
 {
-    return boost::shared_ptr<std::vector<long long>>(new std::vector<long long>(m_times));
+    return boost::shared_ptr<std::vector<long long>>(
+        new std::vector<long long>(m_frames.times(), m_frames.times() + m_frames.size()));
 }
 
 template <class T>
@@ -269,57 +301,58 @@ void ParameterImpl<T>::xmlOfKeyframes(XMLable::Options& options, int indent) con
 {
     if (m_frames.empty())
         return;
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<Keyframes>\n";
+    XmlText out(options);
+    out.indent(indent) << "<Keyframes>\n";
     for (std::size_t i = 0; i < m_frames.size(); ++i) {
-        out << XMLable::genIndent(indent + 1) << "<Keyframe time=\"" << m_times[i] << "\" value=\""
-            << xml_representation(*m_frames[i]) << "\"/>\n";
+        out.indent(indent + 1) << "<Keyframe time=\"" << m_frames.time(i) << "\" value=\"";
+        writeValue(out, *m_frames.frame(i));
+        out << "\"/>\n";
     }
-    out << XMLable::genIndent(indent) << "</Keyframes>\n";
+    out.indent(indent) << "</Keyframes>\n";
 }
 
-// The sorted vectors.
+// The sorted times.
 
 template <class T>
 std::size_t ParameterImpl<T>::firstIndexNotBefore(long long time) const
 {
-    return countBefore(m_times, time);
+    return countBefore(m_frames.times(), m_frames.size(), time);
 }
 
 template <class T>
 std::size_t ParameterImpl<T>::firstIndexAfter(long long time) const
 {
     bool const isLastOfAll = time == std::numeric_limits<long long>::max();
-    return isLastOfAll ? m_times.size() : countBefore(m_times, time + 1);
+    return isLastOfAll ? m_frames.size() : firstIndexNotBefore(time + 1);
 }
 
 template <class T>
 std::size_t ParameterImpl<T>::indexOf(long long time) const
 {
     std::size_t const index = firstIndexNotBefore(time);
-    if (index == m_times.size() || m_times[index] != time)
+    if (index == m_frames.size() || m_frames.time(index) != time)
         throw KeyFrameException(time);
     return index;
 }
 
 template <class T>
+bool ParameterImpl<T>::isTaken(long long time) const
+{
+    std::size_t const index = firstIndexNotBefore(time);
+    return index < m_frames.size() && m_frames.time(index) == time;
+}
+
+template <class T>
 void ParameterImpl<T>::requireFree(long long time) const
 {
-    if (std::binary_search(m_times.begin(), m_times.end(), time))
+    if (isTaken(time))
         throw KeyFrameException(time);
 }
 
 template <class T>
 void ParameterImpl<T>::insertFrame(long long time, FramePointer const& frame)
 {
-    std::ptrdiff_t const index = static_cast<std::ptrdiff_t>(firstIndexNotBefore(time));
-    // Room first: with it, neither insertion can fail, and the vectors stay side by side.
-    if (m_times.size() == m_times.capacity())
-        m_times.reserve(2 * m_times.size() + 1);
-    if (m_frames.size() == m_frames.capacity())
-        m_frames.reserve(2 * m_frames.size() + 1);
-    m_times.insert(m_times.begin() + index, time);
-    m_frames.insert(m_frames.begin() + index, frame);
+    m_frames.insert(firstIndexNotBefore(time), time, frame);
 }
 
 #define TARN_INSTANTIATE(T) template class ParameterImpl<T>;

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "parameters/KeyFrames.h"
 #include "parameters/Parameter.h"
 
 namespace tarn {
 
 /// The storage of key frames that all parameters share.
-///
-/// Times and frames stand side by side, sorted, in two plain vectors: a value costs one search
-/// through adjacent numbers, and a walk touches no tree.
 template <class T>
 class TARN_API ParameterImpl : public Parameter<T>
 {
+    using FramePointer = typename KeyFrames<T>::Frame;
+
 public:
     void addKeyFrame(long long time, T const& value) override;
     /// @throws KeyFrameException(0) when `frame` is null
@@ -38,17 +38,26 @@ public:
     void setupSharedClone(boost::shared_ptr<ParameterInterface> const& clone) const override;
     bool valuesDifferAtTimes(long long time1, long long time2) const override;
 
-protected:
-    using FramePointer = boost::shared_ptr<KeyFrame<T>>;
+    /// The value at all times while there is one key frame, null otherwise. The caller holds the
+    /// read lock.
+    T const* onlyValue() const
+    {
+        FramePointer const* const only = m_frames.only();
+        return only ? &(*only)->value() : nullptr;
+    }
 
+protected:
     ParameterImpl(boost::weak_ptr<ThreadSafe const> const& project, std::string const& name,
                   ReservedIdent attributeIdent = ReservedIdent::draw());
     /// Clones every key frame. The caller holds the read lock.
     ParameterImpl(ParameterImpl const& other);
 
-    /// Ascending; frames()[i] lies at times()[i].
-    std::vector<long long> const& times() const { return m_times; }
-    std::vector<FramePointer> const& frames() const { return m_frames; }
+    KeyFrames<T> const& frames() const { return m_frames; }
+
+    /// What interpolaterAtTime() tells, under the read lock; `owner` keeps it alive where nothing
+    /// else does.
+    virtual Interpolater<T> const* interpolaterNow(double time,
+                                                   boost::shared_ptr<Interpolater<T>>& owner) const;
 
     /// The `Keyframes` block of the XML; nothing for an empty parameter.
     void xmlOfKeyframes(XMLable::Options& options, int indent) const;
@@ -57,12 +66,12 @@ private:
     std::size_t firstIndexNotBefore(long long time) const;
     std::size_t firstIndexAfter(long long time) const;
     std::size_t indexOf(long long time) const;
+    bool isTaken(long long time) const;
     void requireFree(long long time) const;
     void insertFrame(long long time, FramePointer const& frame);
     T valueBetween(std::size_t right, double time) const;
 
-    std::vector<long long> m_times;
-    std::vector<FramePointer> m_frames;
+    KeyFrames<T> m_frames;
 };
 
 #define TARN_DECLARE(T) extern template class TARN_API ParameterImpl<T>;

@@ -16,6 +16,11 @@ double Parametric::doubleParametricTransform(boost::shared_ptr<ParameterInterfac
     return value;
 }
 
+bool Parametric::showsAsStored(ParameterInterface const*) const
+{
+    return false;
+}
+
 boost::shared_ptr<ParameterInterface const> Parametric::paramWithName(std::string const& name) const
 {
     boost::shared_ptr<MTVector<boost::shared_ptr<ParameterInterface const>>> const parameters =
@@ -30,7 +35,10 @@ boost::shared_ptr<ParameterInterface const> Parametric::paramWithName(std::strin
 double Parametric::transformedDoubleParameterValueAtTime(
     boost::shared_ptr<InterpolatingParam<double> const> const& parameter, double time) const
 {
-    double const value = parameter->valueAtTime(toParameterTime(time));
+    double value = 0;
+    if (parameter->isShownAtAllTimes(*this, value))
+        return value;
+    value = parameter->valueAtTime(toParameterTime(time));
     return doubleParametricTransform(parameter, value, time);
 }
 

@@ -32,6 +32,7 @@ public:
     virtual double fromParameterTime(double time) const = 0;
     /// From global time to local time; edit units.
     virtual long long fromGlobalToParametricTime(long long time) const = 0;
+    /// How many parameters parameterVector() has, unless a class says otherwise.
     virtual int numParameters() const = 0;
     /// The direct parameters in a fixed order; entries may be null. Bind it to a local: it keeps
     /// the project read-locked.
@@ -40,6 +41,12 @@ public:
     /// The first of that name, or null.
     virtual boost::shared_ptr<ParameterInterface const> paramWithName(
         std::string const& name) const;
+
+    /// Whether doubleParametricTransform() gives back at all times what that parameter stores; null
+    /// stands for one that nobody has asked for yet. The caller holds the read lock. Here false;
+    /// what overrides doubleParametricTransform() below a class that says otherwise overrides this
+    /// as well.
+    virtual bool showsAsStored(ParameterInterface const* parameter) const;
 
     /// The value of one of the owner's parameters as it is shown at a local time.
     /// @throws KeyFrameException(0) when the parameter has no key frame

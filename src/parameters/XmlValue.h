@@ -8,6 +8,8 @@
 
 namespace tarn {
 
+class XmlText;
+
 /// The id of the policy.
 template <class T>
 std::string xml_representation(Interpolater<T> const& interpolater)
@@ -20,7 +22,13 @@ std::string xml_representation(Interpolater<T> const& interpolater)
 template <class T>
 TARN_API std::string xml_representation(KeyFrame<T> const& frame);
 
-#define TARN_DECLARE(T) extern template TARN_API std::string xml_representation(KeyFrame<T> const&);
+/// Writes the same.
+template <class T>
+TARN_API void writeValue(XmlText& out, KeyFrame<T> const& frame);
+
+#define TARN_DECLARE(T)                                                                            \
+    extern template TARN_API std::string xml_representation(KeyFrame<T> const&);                   \
+    extern template TARN_API void writeValue(XmlText&, KeyFrame<T> const&);
 TARN_PARAMETER_TYPES(TARN_DECLARE)
 #undef TARN_DECLARE
 

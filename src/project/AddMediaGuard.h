@@ -9,6 +9,7 @@
 namespace tarn {
 
 /// Keeps medias of foreign sources off a project's timeline. One for the process, kept for ever.
+/// Runs under the write lock of the edit.
 class TARN_API AddMediaGuard
 {
 public:

@@ -22,19 +22,19 @@ char const k_version[] = "1.0";
 }  // namespace
 
 boost::shared_ptr<InternalProject> InternalProject::create(
-    boost::rational<unsigned long> const& rate)
+    boost::rational<unsigned long> const& rate, LockPolicy policy)
 {
     // Two stages, since what a project owns needs a weak pointer to it.
-    boost::shared_ptr<InternalProject> const project(new InternalProject(rate));
+    boost::shared_ptr<InternalProject> const project(new InternalProject(rate, policy));
     project->init();
     return project;
 }
 
-InternalProject::InternalProject(boost::rational<unsigned long> const& rate)
+InternalProject::InternalProject(boost::rational<unsigned long> const& rate, LockPolicy policy)
     : m_commandHistory(new CommandHistory(this))
     , m_editRate(rate)
     , m_version(k_version)
-    , m_mutex(new ReadWriteMutex)
+    , m_mutex(new ReadWriteMutex(policy))
     , m_commandObserver(nullptr)
     , m_edgeModCommandHandler(new DefaultEdgeModCommandHandler)
     , m_combineNextCommand(false)
@@ -84,8 +84,11 @@ InternalProject* InternalProject::clone() const
     return new InternalProject(*this);
 }
 
+// What edits runs host code, which may let go of the project: it then dies when the edit is over.
+
 bool InternalProject::execute(boost::shared_ptr<Command> const& command)
 {
+    boost::shared_ptr<InternalProject> const outlivesTheLock = weak_from_this().lock();
     // Kept so: the observer comes before the lock here, and after it in undo and redo; a host may
     // still read with its own locks before it edits.
     notifyPreCommandObservers(m_commandObserver);
@@ -102,6 +105,7 @@ bool InternalProject::execute(boost::shared_ptr<Command> const& command)
 
 void InternalProject::undo()
 {
+    boost::shared_ptr<InternalProject> const outlivesTheLock = weak_from_this().lock();
     ReadWriteMutex::ScopedWriteLock lock(mutex());
     notifyPreCommandObservers(m_commandObserver);
     NotifyDelay delay;
@@ -110,6 +114,7 @@ void InternalProject::undo()
 
 void InternalProject::redo()
 {
+    boost::shared_ptr<InternalProject> const outlivesTheLock = weak_from_this().lock();
     ReadWriteMutex::ScopedWriteLock lock(mutex());
     notifyPreCommandObservers(m_commandObserver);
     NotifyDelay delay;
@@ -118,6 +123,7 @@ void InternalProject::redo()
 
 void InternalProject::combineLastCommands()
 {
+    boost::shared_ptr<InternalProject> const outlivesTheLock = weak_from_this().lock();
     ReadWriteMutex::ScopedWriteLock lock(mutex());
     m_commandHistory->combineLastCommands();
 }
@@ -135,6 +141,7 @@ CommandHistoryState InternalProject::commandState() const
 
 void InternalProject::restoreCommandState(CommandHistoryState const& state)
 {
+    boost::shared_ptr<InternalProject> const outlivesTheLock = weak_from_this().lock();
     ReadWriteMutex::ScopedWriteLock lock(mutex());
     notifyPreCommandObservers(m_commandObserver);
     NotifyDelay delay;

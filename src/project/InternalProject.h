@@ -27,7 +27,8 @@ class TARN_API InternalProject : public TarnObject,
                                  public boost::enable_shared_from_this<InternalProject>
 {
 public:
-    static boost::shared_ptr<InternalProject> create(boost::rational<unsigned long> const& rate);
+    static boost::shared_ptr<InternalProject> create(boost::rational<unsigned long> const& rate,
+                                                     LockPolicy policy = LockPolicy::Counted);
     ~InternalProject() override;
 
     std::string description() const override;
@@ -184,7 +185,7 @@ public:
     void setCommandHandler(CommandHandler* handler);
 
 private:
-    explicit InternalProject(boost::rational<unsigned long> const& rate);
+    InternalProject(boost::rational<unsigned long> const& rate, LockPolicy policy);
     InternalProject(InternalProject const& other);
     InternalProject& operator=(InternalProject const& other) = delete;
 

@@ -15,6 +15,7 @@ namespace tarn {
 void InternalProject::changeSourcesFile(boost::shared_ptr<Source const> const& source,
                                         std::string const& newFile)
 {
+    boost::shared_ptr<InternalProject> const outlivesTheLock = weak_from_this().lock();
     ReadWriteMutex::ScopedWriteLock lock(mutex());
     mutablePointer(source)->changeFile(newFile);
 }

@@ -2,10 +2,9 @@
 
 #include "clipbin/SourceBin.h"
 #include "datatypes/XmlRepresentation.h"
+#include "datatypes/XmlText.h"
 #include "project/ReadLockIfAny.h"
 #include "timeline/Timeline.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -13,22 +12,22 @@ namespace {
 
 void writeElement(XMLable::Options& options, int indent, char const* name, std::string const& text)
 {
-    *options.stream << XMLable::genIndent(indent) << "<" << name << ">" << xml_representation(text)
-                    << "</" << name << ">\n";
+    XmlText(options).indent(indent)
+        << "<" << name << ">" << xml_representation(text) << "</" << name << ">\n";
 }
 
 }  // namespace
 
 void InternalProject::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Project";
+    XmlText(options) << "Project";
 }
 
 void InternalProject::xmlAttributes(XMLable::Options& options) const
 {
     ReadLockIfAny lock(m_mutex);
-    *options.stream << "editRate=\"" << m_editRate.numerator() << '/' << m_editRate.denominator()
-                    << "\" version=\"" << m_version << "\"";
+    XmlText(options) << "editRate=\"" << m_editRate.numerator() << '/' << m_editRate.denominator()
+                     << "\" version=\"" << m_version << "\"";
 }
 
 void InternalProject::xmlBody(XMLable::Options& options, int indent) const

@@ -4,14 +4,16 @@
 
 namespace tarn {
 
-boost::shared_ptr<Project> Project::create(boost::rational<unsigned long> const& rate)
+boost::shared_ptr<Project> Project::create(boost::rational<unsigned long> const& rate,
+                                           LockPolicy policy)
 {
-    return InternalProject::create(rate);
+    return InternalProject::create(rate, policy);
 }
 
-boost::shared_ptr<Project> Project::create(unsigned int numerator, unsigned int denominator)
+boost::shared_ptr<Project> Project::create(unsigned int numerator, unsigned int denominator,
+                                           LockPolicy policy)
 {
-    return create(boost::rational<unsigned long>(numerator, denominator));
+    return create(boost::rational<unsigned long>(numerator, denominator), policy);
 }
 
 }  // namespace tarn

@@ -1,6 +1,7 @@
 #include "project/ReadWriteMutex.h"
 
 #include "exceptions/ThreadLockingException.h"
+#include "project/StrictLock.h"
 
 #include <boost/thread/exceptions.hpp>
 #include <boost/thread/thread.hpp>
@@ -45,9 +46,20 @@ using StateLock = std::lock_guard<StateMutex>;
 /// The main mutex and both counts that others look at, in one word, so that a lock that is free is
 /// taken, and given back, by one exchange. The last reader out unlocks what the first one in has
 /// locked, perhaps on another thread, which a pthread_mutex_t does not allow.
+///
+/// A strict lock is told by a bit of that word, where it is looked at anyway, so that the default
+/// costs no more for there being another policy.
 class ReadWriteMutexImpl
 {
 public:
+    explicit ReadWriteMutexImpl(LockPolicy policy)
+        : m_word(policy == LockPolicy::Strict ? k_isStrict : 0)
+        , m_strict(policy == LockPolicy::Strict ? std::make_unique<StrictLock>() : nullptr)
+    {}
+
+    /// Empty when readers are counted.
+    StrictLock* strict() const { return m_strict.get(); }
+
     void acquireReadLock();
     void releaseReadLock();
     void acquireWriteLock();
@@ -65,6 +77,9 @@ private:
     static Word constexpr k_hasWriter = 2;
     // Whether to wake someone when the main mutex is unlocked.
     static Word constexpr k_isAwaited = 4;
+    // Whether it is the strict lock that does the locking. The word never changes then, and no
+    // thread is the writer here.
+    static Word constexpr k_isStrict = 8;
     // The upper half counts the readers, signed.
     static Word constexpr k_reader = Word(1) << 32;
 
@@ -73,14 +88,16 @@ private:
     bool isWriter() const;
     /// Locks the main mutex, and sets `bits` with it.
     void lockMain(Word bits);
-    void waitForMain(Word bits);
-    void wakeOne();
+    // Off the road that is taken when nobody waits, which then saves no registers.
+    [[gnu::noinline]] void waitForMain(Word bits);
+    [[gnu::noinline]] void wakeOne();
 
-    std::atomic<Word> m_word{0};
+    std::atomic<Word> m_word;
     // No thread is 0.
     std::atomic<pthread_t> m_writer{0};
     // The writer's own business.
     int m_writerCount = 0;
+    std::unique_ptr<StrictLock> const m_strict;
     // Guards what follows. Never held while anyone waits.
     StateMutex m_stateMutex;
     std::condition_variable_any m_unlocked;
@@ -143,6 +160,10 @@ void ReadWriteMutexImpl::acquireReadLock()
         return;
     }
     Word word = m_word.load(std::memory_order_relaxed);
+    if ((word & k_isStrict) != 0) {
+        m_strict->acquireReadLock();
+        return;
+    }
     Word counted;
     do {
         counted = word + k_reader;
@@ -162,10 +183,13 @@ void ReadWriteMutexImpl::releaseReadLock()
     Word word = m_word.load(std::memory_order_relaxed);
     Word counted;
     do {
-        // Kept so: the writer's own nested read locks were not counted in, and are told from other
-        // readers by the writer count alone. So a reader that slipped in beside a writer, and
-        // leaves before it, is never counted out.
-        if ((word & k_hasWriter) != 0) {
+        if ((word & (k_hasWriter | k_isStrict)) != 0) {
+            // Kept so: the writer's own nested read locks were not counted in, and are told from
+            // other readers by the writer count alone. So a reader that slipped in beside a writer,
+            // and leaves before it, is never counted out.
+            if (m_strict) {
+                m_strict->releaseReadLock();
+            }
             return;
         }
         counted = word - k_reader;
@@ -185,6 +209,10 @@ void ReadWriteMutexImpl::acquireWriteLock()
         ++m_writerCount;
         return;
     }
+    if (m_strict) {
+        m_strict->acquireWriteLock();
+        return;
+    }
     lockMain(k_hasWriter);
     m_writer.store(pthread_self(), std::memory_order_relaxed);
     m_writerCount = 1;
@@ -193,6 +221,9 @@ void ReadWriteMutexImpl::acquireWriteLock()
 void ReadWriteMutexImpl::releaseWriteLock()
 {
     if (!isWriter()) {
+        if (m_strict) {
+            m_strict->releaseWriteLock();
+        }
         return;
     }
     --m_writerCount;
@@ -233,9 +264,16 @@ void ReadWriteMutexImpl::assertNoReadLockFromThisThread()
     }
 }
 
-ReadWriteMutex::ReadWriteMutex() : m_impl(std::make_unique<ReadWriteMutexImpl>()) {}
+ReadWriteMutex::ReadWriteMutex(LockPolicy policy)
+    : m_impl(std::make_unique<ReadWriteMutexImpl>(policy))
+{}
 
 ReadWriteMutex::~ReadWriteMutex() = default;
+
+LockPolicy ReadWriteMutex::policy() const
+{
+    return m_impl->strict() ? LockPolicy::Strict : LockPolicy::Counted;
+}
 
 void ReadWriteMutex::acquireReadLock()
 {
@@ -257,6 +295,11 @@ void ReadWriteMutex::releaseWriteLock()
     m_impl->releaseWriteLock();
 }
 
+bool ReadWriteMutex::isWriterWaiting() const
+{
+    return m_impl->strict() && m_impl->strict()->isWriterWaiting();
+}
+
 void ReadWriteMutex::addThreadToReaders()
 {
     m_impl->addThreadToReaders();
@@ -269,6 +312,9 @@ void ReadWriteMutex::removeThreadFromReaders()
 
 void ReadWriteMutex::assertNoReadLockFromThisThread() const
 {
+    if (StrictLock const* const strict = m_impl->strict()) {
+        strict->assertNoReadLockFromThisThread();
+    }
     m_impl->assertNoReadLockFromThisThread();
 }
 

@@ -12,7 +12,8 @@ namespace tarn {
 /// A read lock that results share, as const iterators do. It also keeps the project alive, so that
 /// the lock it releases still exists.
 ///
-/// Never hold one across an edit on the same thread: the edit would wait for ever.
+/// Never hold one across an edit on the same thread: the edit would wait for ever, or throw if the
+/// lock is strict. That of a strict lock ends on the thread that acquired it.
 class TARN_API SharedReadLock
 {
 public:

@@ -11,6 +11,8 @@ class TARN_API ThreadSafe
 public:
     virtual ~ThreadSafe() = default;
 
+    /// The project's lock; lives as long as the project. @throws boost::bad_weak_ptr for a dead
+    /// project
     virtual ReadWriteMutex& mutex() const = 0;
 
 protected:

@@ -1,5 +1,6 @@
 #include "timeline/AMFile.h"
 
+#include "datatypes/XmlText.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "timeline/ConstMediaDispatcher.h"
 #include "timeline/MediaDispatcher.h"
@@ -209,13 +210,13 @@ std::string AMFile::description() const
 
 void AMFile::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "AMFile";
+    XmlText(options) << "AMFile";
 }
 
 void AMFile::xmlAttributes(XMLable::Options& options) const
 {
     AudioMedia::xmlAttributes(options);
-    std::ostream& out = *options.stream;
+    XmlText out(options);
     out << " trackNumber=\"" << trackNumber() << "\" src=\"" << m_track.sourceXmlIdent() << '"';
     for (unsigned int const channel : m_channels)
         out << " channelNumber=\"" << channel << '"';

@@ -35,11 +35,16 @@ public:
     /// @throws TarnMediaLibException "trying to copy a channel that doesn't exist in this amfile"
     AMFile(boost::shared_ptr<AMFile const> const& other, unsigned int channel);
 
+    /// Counted from 0, rising.
     std::set<unsigned int> channels() const;
     unsigned int numChannels() const override;
+    /// The track of its source that it shows, counted from 0.
     unsigned int trackNumber() const;
+    /// Empty for a file known by name only.
     boost::shared_ptr<Source const> source() const;
+    /// The file that holds the sound itself: the component file inside a bundle.
     std::string fileName() const;
+    /// The file as it was loaded: the bundle, or the same as fileName().
     std::string containerFileName() const;
     std::vector<boost::shared_ptr<AudioMedia>> splitChannels() const override;
 

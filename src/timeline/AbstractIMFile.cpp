@@ -1,7 +1,8 @@
 #include "timeline/AbstractIMFile.h"
 
+#include "datatypes/XmlText.h"
+
 #include <limits>
-#include <ostream>
 
 namespace tarn {
 
@@ -86,14 +87,14 @@ std::string AbstractIMFile::description() const
 
 void AbstractIMFile::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "AbstractIMFile";
+    XmlText(options) << "AbstractIMFile";
 }
 
 void AbstractIMFile::xmlAttributes(XMLable::Options& options) const
 {
     ImageMedia::xmlAttributes(options);
-    *options.stream << " trackNumber=\"" << trackNumber() << "\" src=\"" << m_file.sourceXmlIdent()
-                    << "\" trimStartSum=\"" << trimStartSum() << '"';
+    XmlText(options) << " trackNumber=\"" << trackNumber() << "\" src=\"" << m_file.sourceXmlIdent()
+                     << "\" trimStartSum=\"" << trimStartSum() << '"';
 }
 
 }  // namespace tarn

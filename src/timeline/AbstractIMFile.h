@@ -22,7 +22,9 @@ public:
 
     std::string fileName() const;
     std::string containerFileName() const;
+    /// The track of its source that it shows, counted from 0.
     unsigned int trackNumber() const;
+    /// Empty for a file known by name only.
     boost::shared_ptr<Source const> source() const;
     double width() const override;
     double height() const override;

@@ -1,11 +1,11 @@
 #include "timeline/AbstractVisualTrack.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/MTVector.h"
 #include "project/ReadWriteMutex.h"
 #include "timeline/VisualMedia.h"
 
 #include <algorithm>
-#include <ostream>
 
 namespace tarn {
 
@@ -77,7 +77,7 @@ AbstractVisualTrack::parameterVector() const
 
 void AbstractVisualTrack::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "AbstractVisualTrack";
+    XmlText(options) << "AbstractVisualTrack";
 }
 
 void AbstractVisualTrack::xmlBody(XMLable::Options& options, int indent) const

@@ -21,16 +21,23 @@ public:
 
     AbstractVisualTrack* clone() const override = 0;
 
+    /// The medias by rising start, each seen as a picture. Takes no lock.
     virtual MediaMapView<VisualMedia> visualMedias() = 0;
     virtual MediaMapView<VisualMedia const> visualMedias() const = 0;
 
+    /// The medias in time order, each seen as a picture. The const forms hold the read lock for
+    /// their life; the others hold none.
     VisualMediaIterator visualMediaBegin();
     VisualMediaIterator visualMediaEnd();
     ConstVisualMediaIterator visualMediaBegin() const;
     ConstVisualMediaIterator visualMediaEnd() const;
+    /// The same as visualMediaBegin() of a track that may not change.
     ConstVisualMediaIterator typeSafeMediaBegin() const;
+    /// The same as visualMediaEnd() of a track that may not change.
     ConstVisualMediaIterator typeSafeMediaEnd() const;
 
+    /// What reaches into `range` (edit units of the timeline), with the part of it that each media
+    /// covers. Read lock.
     boost::shared_ptr<TrackSubSection<VisualMedia>> subSection(Range<long long> const& range) const;
 
     /// False once something else was put past addMedia(). Read lock.

@@ -1,25 +1,10 @@
 #include "timeline/AudioMedia.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
 
-#include <ostream>
-
 namespace tarn {
-
-namespace {
-
-/// A level of 1.0 at all times.
-boost::shared_ptr<InterpolatingParam<double>> newLevel(
-    boost::weak_ptr<ThreadSafe const> const& project, std::string const& name)
-{
-    boost::shared_ptr<InterpolatingParam<double>> const level(
-        new InterpolatingParam<double>(project, name));
-    level->addKeyFrame(0, 1.0);
-    return level;
-}
-
-}  // namespace
 
 AudioMedia::AudioMedia(Range<long long> const& sourceRange, unsigned int sampleRate,
                        unsigned int bitDepth, double mediaStartLimit, double mediaEndLimit,
@@ -27,8 +12,8 @@ AudioMedia::AudioMedia(Range<long long> const& sourceRange, unsigned int sampleR
     : MediaImpl(sourceRange, mediaStartLimit, mediaEndLimit, project)
     , m_sampleRate(sampleRate)
     , m_bitDepth(bitDepth)
-    , m_volume(newLevel(project, "volume"))
-    , m_gain(newLevel(project, "gain"))
+    , m_volume("volume", 1)
+    , m_gain("gain", 1)
     , m_editor(this)
 {}
 
@@ -37,8 +22,8 @@ AudioMedia::AudioMedia(AudioMedia const& other)
     , MediaImpl(other)
     , m_sampleRate(other.m_sampleRate)
     , m_bitDepth(other.m_bitDepth)
-    , m_volume(other.m_volume->clone())
-    , m_gain(other.m_gain->clone())
+    , m_volume(other.m_volume)
+    , m_gain(other.m_gain)
     , m_editor(this)
 {}
 
@@ -57,20 +42,20 @@ AudioMedia::parameterVector() const
 {
     boost::shared_ptr<MTVector<boost::shared_ptr<ParameterInterface const>>> const parameters =
         MediaImpl::parameterVector();
-    parameters->push_back(m_volume);
-    parameters->push_back(m_gain);
+    parameters->push_back(volume());
+    parameters->push_back(gain());
     return parameters;
 }
 
 void AudioMedia::xmlOfParameters(XMLable::Options& options, int indent) const
 {
-    m_volume->toXML(options, indent, "name=\"volume\"");
-    m_gain->toXML(options, indent, "name=\"gain\"");
+    m_volume.toXML(options, indent);
+    m_gain.toXML(options, indent);
 }
 
 void AudioMedia::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "AudioMedia";
+    XmlText(options) << "AudioMedia";
 }
 
 }  // namespace tarn

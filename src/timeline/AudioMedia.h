@@ -1,6 +1,6 @@
 #pragma once
 
-#include "parameters/ParametersFwd.h"
+#include "parameters/LateDoubleParam.h"
 #include "timeline/MediaImpl.h"
 #include "timeline/TemporalEditor.h"
 
@@ -17,16 +17,25 @@ public:
                double mediaStartLimit, double mediaEndLimit,
                boost::weak_ptr<ThreadSafe const> const& project);
 
+    /// How many channels it plays.
     virtual unsigned int numChannels() const = 0;
     /// One new media for each channel, in rising channel order.
     virtual std::vector<boost::shared_ptr<AudioMedia>> splitChannels() const = 0;
 
+    /// Samples a second.
     unsigned int sampleRate() const { return m_sampleRate; }
+    /// Bits a sample; 0 for lossy compression.
     unsigned int bitDepth() const { return m_bitDepth; }
-    boost::shared_ptr<InterpolatingParam<double>> volume() { return m_volume; }
-    boost::shared_ptr<InterpolatingParam<double> const> volume() const { return m_volume; }
-    boost::shared_ptr<InterpolatingParam<double>> gain() { return m_gain; }
-    boost::shared_ptr<InterpolatingParam<double> const> gain() const { return m_gain; }
+    /// A factor on the sound, 1 at first; key frames lie on the source's clock. The host applies
+    /// it.
+    boost::shared_ptr<InterpolatingParam<double>> volume() { return m_volume.get(*this); }
+    boost::shared_ptr<InterpolatingParam<double> const> volume() const
+    {
+        return m_volume.get(*this);
+    }
+    /// A second factor, 1 at first, on the same clock. The host applies it.
+    boost::shared_ptr<InterpolatingParam<double>> gain() { return m_gain.get(*this); }
+    boost::shared_ptr<InterpolatingParam<double> const> gain() const { return m_gain.get(*this); }
 
     MediaEditor& mediaEditor() override { return m_editor; }
     MediaEditor const& mediaEditor() const override { return m_editor; }
@@ -44,8 +53,8 @@ protected:
 private:
     unsigned int m_sampleRate;
     unsigned int m_bitDepth;
-    boost::shared_ptr<InterpolatingParam<double>> m_volume;
-    boost::shared_ptr<InterpolatingParam<double>> m_gain;
+    LateDoubleParam m_volume;
+    LateDoubleParam m_gain;
     TemporalEditor m_editor;
 };
 

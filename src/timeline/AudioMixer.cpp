@@ -1,5 +1,6 @@
 #include "timeline/AudioMixer.h"
 
+#include "datatypes/XmlText.h"
 #include "exceptions/TypeException.h"
 #include "parameters/Attribute.h"
 #include "parameters/MTVector.h"
@@ -7,8 +8,6 @@
 #include "timeline/AudioTrack.h"
 
 #include <boost/make_shared.hpp>
-
-#include <ostream>
 
 namespace tarn {
 
@@ -138,7 +137,7 @@ int AudioMixer::numAttributes() const
 
 void AudioMixer::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "AudioMixer";
+    XmlText(options) << "AudioMixer";
 }
 
 void AudioMixer::xmlOfParameters(XMLable::Options&, int) const {}

@@ -26,6 +26,8 @@ public:
     TrackList& trackList() override;
     TrackList const& trackList() const override;
 
+    /// The tracks in order, each seen as an audio track. The const forms hold the read lock for
+    /// their life; the others hold none.
     AudioTrackIterator trackBegin();
     AudioTrackIterator trackEnd();
     ConstAudioTrackIterator trackBegin() const;
@@ -38,8 +40,12 @@ public:
     boost::shared_ptr<Attribute<unsigned int> const> attributeSampleRate() const;
     /// Bits a sample.
     boost::shared_ptr<Attribute<unsigned int> const> attributeBitDepth() const;
+    /// How many channels it gives out.
     boost::shared_ptr<Attribute<unsigned int> const> attributeNumChannels() const;
 
+    /// A mixer with clones of what lies in `range` (edit units of the timeline) on those of its
+    /// tracks that are named, or of the medias as a whole. Links between copied medias hold between
+    /// their clones; `map`, which may be null, receives each pair. Read lock.
     boost::shared_ptr<AudioMixer> copyPortion(Range<long long> const& range,
                                               ConstTrackSet const& tracks,
                                               MediaCloneMap* map) const;

@@ -1,6 +1,7 @@
 #include "timeline/AudioTrack.h"
 
 #include "datatypes/AudioPosition.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/TypeException.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/LeftInterpolater.h"
@@ -20,7 +21,6 @@
 #include "timeline/VMFile.h"
 
 #include <algorithm>
-#include <ostream>
 
 namespace tarn {
 
@@ -198,7 +198,7 @@ AudioTrack::parameterVector() const
 
 void AudioTrack::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "AudioTrack";
+    XmlText(options) << "AudioTrack";
 }
 
 void AudioTrack::xmlOfParameters(XMLable::Options& options, int indent) const

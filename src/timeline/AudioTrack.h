@@ -42,15 +42,22 @@ public:
     MediaMap& medias() override;
     MediaMap const& medias() const override;
 
+    /// The medias by rising start, each seen as a sound. Takes no lock.
     MediaMapView<AudioMedia> audioMedias();
     MediaMapView<AudioMedia const> audioMedias() const;
+    /// The medias in time order, each seen as a sound. The const forms hold the read lock for their
+    /// life; the others hold none.
     AudioMediaIterator audioMediaBegin();
     AudioMediaIterator audioMediaEnd();
     ConstAudioMediaIterator audioMediaBegin() const;
     ConstAudioMediaIterator audioMediaEnd() const;
+    /// The same as audioMediaBegin() of a track that may not change.
     ConstAudioMediaIterator typeSafeMediaBegin() const;
+    /// The same as audioMediaEnd() of a track that may not change.
     ConstAudioMediaIterator typeSafeMediaEnd() const;
 
+    /// What reaches into `range` (edit units of the timeline), with the part of it that each media
+    /// covers. Read lock.
     boost::shared_ptr<TrackSubSection<AudioMedia>> subSection(Range<long long> const& range) const;
 
     /// False once something else was put past addMedia(). Read lock.

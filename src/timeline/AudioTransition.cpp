@@ -1,10 +1,9 @@
 #include "timeline/AudioTransition.h"
 
+#include "datatypes/XmlText.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "timeline/ConstMediaDispatcher.h"
 #include "timeline/MediaDispatcher.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -67,7 +66,7 @@ std::string AudioTransition::description() const
 
 void AudioTransition::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "AudioTransition";
+    XmlText(options) << "AudioTransition";
 }
 
 }  // namespace tarn

@@ -1,12 +1,11 @@
 #include "timeline/Callout.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/Attribute.h"
 #include "parameters/LeftParameter.h"
 #include "parameters/MTVector.h"
 #include "timeline/ConstMediaDispatcher.h"
 #include "timeline/MediaDispatcher.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -119,14 +118,14 @@ void Callout::xmlOfAttributes(XMLable::Options& options, int indent) const
 
 void Callout::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Callout";
+    XmlText(options) << "Callout";
 }
 
 void Callout::xmlAttributes(XMLable::Options& options) const
 {
     AbstractIMFile::xmlAttributes(options);
-    *options.stream << " textRect=\"" << m_textRect->value() << "\" hotspot=\""
-                    << m_hotSpot->value() << '"';
+    XmlText(options) << " textRect=\"" << m_textRect->value() << "\" hotspot=\""
+                     << m_hotSpot->value() << '"';
 }
 
 }  // namespace tarn

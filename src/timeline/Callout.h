@@ -17,10 +17,13 @@ public:
     Callout(long long start, long long duration, boost::weak_ptr<ThreadSafe const> const& project,
             Rect<float> const& rect, std::string const& fileName);
 
+    /// The point that the callout points at, in the media's own pixels.
     boost::shared_ptr<Attribute<Point>> hotSpotAttr() { return m_hotSpot; }
     boost::shared_ptr<Attribute<Point> const> hotSpotAttr() const { return m_hotSpot; }
+    /// Where the text goes, in the media's own pixels.
     boost::shared_ptr<Attribute<Rect<float>>> textRectAttr() { return m_textRect; }
     boost::shared_ptr<Attribute<Rect<float>> const> textRectAttr() const { return m_textRect; }
+    /// The text; it holds until the next key frame.
     boost::shared_ptr<LeftParameter<std::string>> textParam() { return m_text; }
     boost::shared_ptr<LeftParameter<std::string> const> textParam() const { return m_text; }
 

@@ -79,6 +79,7 @@ template <class T>
 struct CastTrack
 {
     using Entry = boost::shared_ptr<T>;
+    /// Empty for a track of another class.
     static Entry entry(boost::shared_ptr<Track> const& track)
     {
         return boost::dynamic_pointer_cast<T>(track);
@@ -90,6 +91,7 @@ template <class M>
 struct CastMedia
 {
     using Entry = std::pair<long long const, boost::shared_ptr<M>>;
+    /// The second is empty for a media of another class.
     static Entry entry(std::pair<long long const, boost::shared_ptr<Media>> const& entry)
     {
         return Entry(entry.first, boost::dynamic_pointer_cast<M>(entry.second));

@@ -8,6 +8,10 @@
 namespace tarn {
 
 /// Receives a media as what it is, without the right to change it.
+///
+/// Called once, on the asking thread, with no lock taken for it and nothing waiting for its return:
+/// it may edit if its thread may, destroy itself or what it was given, and throw, which passes to
+/// whoever asked.
 class TARN_API ConstMediaDispatcher
 {
 public:

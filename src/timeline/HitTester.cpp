@@ -17,14 +17,11 @@
 
 #include <boost/pointer_cast.hpp>
 
-#include <stack>
-
 namespace tarn {
 
 namespace {
 
 using Hit = std::pair<boost::shared_ptr<VisualMedia const>, Point>;
-using TrackStack = std::stack<boost::shared_ptr<AbstractVisualTrack const>>;
 
 /// The mixer's frame around the origin, in whole pixels.
 Rect<int> calcViewport(VisualMixer const& mixer)
@@ -58,14 +55,6 @@ Point calcPickRayDirection(VisualMixer const& mixer, Point const& location, long
     return direction;
 }
 
-/// The front of the picture, which is the last track, comes to lie on top.
-void genBackwardTracksStack(VisualMixer const& mixer, TrackStack& stack)
-{
-    auto const end = mixer.trackEnd();
-    for (auto it = mixer.trackBegin(); it != end; ++it)
-        stack.push(*it);
-}
-
 Hit visualMediaIntersectsRay(AbstractVisualTrack const& track, Point const& origin,
                              Point const& direction, long long time)
 {
@@ -83,10 +72,11 @@ Hit visualMediaIntersectsRay(AbstractVisualTrack const& track, Point const& orig
 Hit findMediaIntersectingRay(VisualMixer const& mixer, Point const& origin, Point const& direction,
                              long long time)
 {
-    TrackStack stack;
-    genBackwardTracksStack(mixer, stack);
-    for (; !stack.empty(); stack.pop()) {
-        Hit const hit = visualMediaIntersectsRay(*stack.top(), origin, direction, time);
+    // The front of the picture is the last track. The mixer's own list, as the lock is held.
+    Mixer::TrackList const& tracks = mixer.trackList();
+    for (auto it = tracks.rbegin(); it != tracks.rend(); ++it) {
+        AbstractVisualTrack const& track = dynamic_cast<AbstractVisualTrack const&>(**it);
+        Hit const hit = visualMediaIntersectsRay(track, origin, direction, time);
         if (hit.first)
             return hit;
     }

@@ -14,7 +14,8 @@ namespace tarn {
 ///
 /// A ray from the mixer's eye through the point meets the medias as they stand in space, from the
 /// mixer's last track to its first. What counts is a media's geometry crop; opacity, effects and
-/// the source crop do not, so a media that cannot be seen can be hit.
+/// the source crop do not, so a media that cannot be seen can be hit. Takes read locks as it goes:
+/// hold one around the call while another thread edits.
 class TARN_API HitTester
 {
 public:

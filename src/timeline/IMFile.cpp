@@ -1,9 +1,8 @@
 #include "timeline/IMFile.h"
 
+#include "datatypes/XmlText.h"
 #include "timeline/ConstMediaDispatcher.h"
 #include "timeline/MediaDispatcher.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -31,7 +30,7 @@ std::string IMFile::description() const
 
 void IMFile::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "IMFile";
+    XmlText(options) << "IMFile";
 }
 
 }  // namespace tarn

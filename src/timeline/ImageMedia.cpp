@@ -1,6 +1,6 @@
 #include "timeline/ImageMedia.h"
 
-#include <ostream>
+#include "datatypes/XmlText.h"
 
 namespace tarn {
 
@@ -43,7 +43,7 @@ std::string ImageMedia::description() const
 
 void ImageMedia::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "ImageMedia";
+    XmlText(options) << "ImageMedia";
 }
 
 }  // namespace tarn

@@ -1,5 +1,6 @@
 #include "timeline/ImageTrack.h"
 
+#include "datatypes/XmlText.h"
 #include "exceptions/TypeException.h"
 #include "project/ReadWriteMutex.h"
 #include "timeline/AMFile.h"
@@ -15,7 +16,6 @@
 #include "timeline/VMFile.h"
 
 #include <algorithm>
-#include <ostream>
 
 namespace tarn {
 
@@ -147,7 +147,7 @@ bool ImageTrack::allMediasAreImageMedias() const
 
 void ImageTrack::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "ImageTrack";
+    XmlText(options) << "ImageTrack";
 }
 
 }  // namespace tarn

@@ -28,13 +28,18 @@ public:
     MediaMapView<VisualMedia> visualMedias() override;
     MediaMapView<VisualMedia const> visualMedias() const override;
 
+    /// The medias by rising start, each seen as a still. Takes no lock.
     MediaMapView<ImageMedia> imageMedias();
     MediaMapView<ImageMedia const> imageMedias() const;
+    /// The medias in time order, each seen as a still. The const forms hold the read lock for their
+    /// life; the others hold none.
     ImageMediaIterator imageMediaBegin();
     ImageMediaIterator imageMediaEnd();
     ConstImageMediaIterator imageMediaBegin() const;
     ConstImageMediaIterator imageMediaEnd() const;
 
+    /// What reaches into `range` (edit units of the timeline), with the part of it that each media
+    /// covers. Read lock.
     boost::shared_ptr<TrackSubSection<ImageMedia>> subSection(Range<long long> const& range) const;
 
     /// False once something else was put past addMedia(). Read lock.

@@ -1,5 +1,6 @@
 #include "timeline/ImageTransition.h"
 
+#include "datatypes/XmlText.h"
 #include "effects/Effect.h"
 #include "effects/ParametricEffectableUtil.h"
 #include "exceptions/TarnMediaLibException.h"
@@ -8,7 +9,6 @@
 #include "timeline/MediaDispatcher.h"
 
 #include <limits>
-#include <ostream>
 
 namespace tarn {
 
@@ -103,7 +103,7 @@ std::string ImageTransition::description() const
 
 void ImageTransition::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "ImageTransition";
+    XmlText(options) << "ImageTransition";
 }
 
 }  // namespace tarn

@@ -17,14 +17,14 @@ Media::Media(Media const& other)
 Range<long long> Media::trackRangeWithMove(long long offset) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    Range<long long> const& range = trackRange();
+    Range<long long> const& range = placedRange();
     return Range<long long>(saturatedSum(range.start, offset), range.duration);
 }
 
 Range<long long> Media::trackRangeWithTrimStart(long long offset) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    Range<long long> const& range = trackRange();
+    Range<long long> const& range = placedRange();
     return Range<long long>(saturatedSum(range.start, offset),
                             saturatedDifference(range.duration, offset));
 }
@@ -32,7 +32,7 @@ Range<long long> Media::trackRangeWithTrimStart(long long offset) const
 Range<long long> Media::trackRangeWithTrimEnd(long long offset) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    Range<long long> const& range = trackRange();
+    Range<long long> const& range = placedRange();
     return Range<long long>(range.start, saturatedDifference(range.duration, offset));
 }
 

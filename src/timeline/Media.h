@@ -5,14 +5,13 @@
 #include "datatypes/Range.h"
 #include "edgemods/EdgeModifiable.h"
 #include "project/ConstIterator.h"
+#include "timeline/MediaPlace.h"
 #include "timeline/SubTimeline.h"
 #include "timeline/TimelineFwd.h"
 
 #include <boost/enable_shared_from_this.hpp>
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
-
-#include <list>
 
 namespace tarn {
 
@@ -28,7 +27,7 @@ class TARN_API Media : public SubTimeline,
                        public EdgeModifiable
 {
 public:
-    using LinkList = std::list<boost::weak_ptr<Media>>;
+    using LinkList = MediaPlace::LinkList;
 
     explicit Media(boost::weak_ptr<ThreadSafe const> const& project);
 
@@ -51,6 +50,7 @@ public:
     /// Takes `other` out of this media's links only.
     /// @throws TarnMediaLibException for itself, for what is not linked, for unequal track ranges
     virtual void removeLink(boost::shared_ptr<Media> const& other) = 0;
+    /// Whether `other` is in this media's list of links. Read lock.
     virtual bool isLinkedWith(boost::shared_ptr<Media const> const& other) const = 0;
     /// In order of linking. The const forms hold a read lock for their life.
     virtual ConstIterator<LinkList> linkBegin() const = 0;
@@ -78,25 +78,62 @@ public:
 
     /// Offsets are relative, in edit units; a positive trim shortens. What throws changed nothing.
     virtual void move(long long offset) = 0;
+    /// @throws ValueException<long long> "invalid media trim start offset", with the offset, where
+    ///         the source has no more or nothing would be left
     virtual void trimStart(long long offset) = 0;
+    /// Whether trimStart() would take the offset.
     virtual bool validTrimStart(long long offset) = 0;
+    /// @throws ValueException<long long> "invalid media trim end offset", likewise
     virtual void trimEnd(long long offset) = 0;
+    /// Whether trimEnd() would take the offset.
     virtual bool validTrimEnd(long long offset) = 0;
+    /// Where the media starts, in edit units on the track's clock; notifies. For a media on a track
+    /// the track calls it, which keeps its key in step.
     virtual void setTrackStart(long long time) = 0;
     /// @return the scalar that a whole duration allowed
+    /// @throws ValueException<double> "invalid duration after media stretch (<=0)", with the scalar
     virtual double stretch(double scalar) = 0;
 
+    /// The timing arithmetic of this kind of media; owned by the media.
     virtual MediaEditor& mediaEditor() = 0;
     virtual MediaEditor const& mediaEditor() const = 0;
 
+    /// @name For a track, which asks this of many medias under one lock
+    /// Without a lock of their own and, where the class keeps a MediaPlace, without a virtual call.
+    /// @{
+    Range<long long> const& placedRange() const
+    {
+        return m_keepsPlace ? m_place.range : trackRange();
+    }
+    bool isPlaced() const
+    {
+        return m_keepsPlace ? !m_place.parent.expired() : !parentTrack().expired();
+    }
+    bool mayBeLinked() const { return !m_keepsPlace || !m_place.links.empty(); }
+    /// @}
+
     /// The track ranges that edits would give.
     Range<long long> trackRangeWithMove(long long offset) const;
+    /// Without asking whether the source offers that much, here and below.
     Range<long long> trackRangeWithTrimStart(long long offset) const;
+    /// The start stays.
     Range<long long> trackRangeWithTrimEnd(long long offset) const;
 
 protected:
     Media(Media const& other);
     Media& operator=(Media const& other) = delete;
+
+    /// For a class whose virtual queries answer from m_place; others leave it alone.
+    void keepPlace(Range<long long> const& range)
+    {
+        m_place.range = range;
+        m_keepsPlace = true;
+    }
+
+    MediaPlace m_place;
+
+private:
+    bool m_keepsPlace = false;
 };
 
 }  // namespace tarn

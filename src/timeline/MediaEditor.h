@@ -25,11 +25,20 @@ public:
 
     std::string description() const override;
 
+    /// Shifts the track range.
     virtual void move(long long offset, Range<long long>& track, Range<double>& media) = 0;
+    /// Takes `offset` off the start, or gives it back when negative; the end stays.
+    /// @throws ValueException<long long> "invalid media trim start offset", with the offset, unless
+    ///         validTrimStart()
     virtual void trimStart(long long offset, Range<long long>& track, Range<double>& media) = 0;
+    /// Whether the source offers that much, and something is left.
     virtual bool validTrimStart(long long offset, Range<long long>& track,
                                 Range<double>& media) = 0;
+    /// Takes `offset` off the end; the start stays.
+    /// @throws ValueException<long long> "invalid media trim end offset", with the offset, unless
+    ///         validTrimEnd()
     virtual void trimEnd(long long offset, Range<long long>& track, Range<double>& media) = 0;
+    /// Whether the source offers that much, and something is left.
     virtual bool validTrimEnd(long long offset, Range<long long>& track, Range<double>& media) = 0;
 
     /// Gives the media the duration nearest to `requested` times its natural one; the media range
@@ -52,8 +61,13 @@ public:
     bool almostNumber(double a, double b, double eps) const;
     /// `a` where almostNumber() holds, otherwise `b`.
     double roundIfClose(double a, double b, double eps) const;
+    /// a - offset / b: what is left of `a` media units once `offset` edit units at the scalar `b`
+    /// are gone.
     double stretchOffset(long long offset, double a, double b) const;
+    /// Whether a start trimmed by `offset` edit units still lies in what the source offers.
     bool validMediaStartWithTrimOffset(long long offset) const;
+    /// Whether a length trimmed by `offset` edit units is more than nothing and no more than the
+    /// source offers.
     bool validMediaDurationWithTrimOffset(long long offset) const;
 
 protected:

@@ -18,14 +18,14 @@ MediaImpl::MediaImpl(Range<long long> const& sourceRange, double mediaStartLimit
     : Media(project)
     , m_mediaStartLimit(mediaStartLimit)
     , m_mediaEndLimit(mediaEndLimit)
-    , m_trackRange(0, sourceRange.duration)
     , m_mediaRange(static_cast<double>(sourceRange.start),
                    static_cast<double>(sourceRange.duration))
     , m_scalar(1.0)
-    , m_effects(new VectorEffectable)
     , m_leftEdgeLength(0)
     , m_rightEdgeLength(0)
-{}
+{
+    keepPlace(Range<long long>(0, sourceRange.duration));
+}
 
 MediaImpl::MediaImpl(MediaImpl const& other)
     : XMLIdentified(other)
@@ -33,14 +33,15 @@ MediaImpl::MediaImpl(MediaImpl const& other)
     , EffectTimeConverter(other)
     , m_mediaStartLimit(other.m_mediaStartLimit)
     , m_mediaEndLimit(other.m_mediaEndLimit)
-    , m_trackRange(other.m_trackRange)
     , m_mediaRange(other.m_mediaRange)
     , m_scalar(other.m_scalar)
-    , m_effects(other.m_effects->clone())
+    , m_effects(other.m_effects ? boost::shared_ptr<VectorEffectable>(other.m_effects->clone())
+                                : boost::shared_ptr<VectorEffectable>())
     , m_leftEdgeLength(other.m_leftEdgeLength)
     , m_rightEdgeLength(other.m_rightEdgeLength)
 {
-    for (int i = 0; i < m_effects->numEffects(); ++i) {
+    keepPlace(other.m_place.range);
+    for (int i = 0; m_effects && i < m_effects->numEffects(); ++i) {
         if (boost::shared_ptr<Effect> const effect = m_effects->effectAtIndex(i))
             effect->setEffectTimeConverter(this);
     }
@@ -49,7 +50,7 @@ MediaImpl::MediaImpl(MediaImpl const& other)
 MediaImpl::~MediaImpl()
 {
     // Effects live on in the records of undo, and must not ask a media that is gone.
-    for (int i = 0; i < m_effects->numEffects(); ++i) {
+    for (int i = 0; m_effects && i < m_effects->numEffects(); ++i) {
         boost::shared_ptr<Effect> const effect = m_effects->effectAtIndex(i);
         if (effect && effect->effectTimeConverter() == this)
             effect->setEffectTimeConverter(nullptr);
@@ -72,18 +73,18 @@ void MediaImpl::notify() const
 
 void MediaImpl::setParentTrack(boost::weak_ptr<Track> const& track)
 {
-    m_parent = track;
+    m_place.parent = track;
 }
 
 boost::weak_ptr<Track> MediaImpl::parentTrack()
 {
-    return m_parent;
+    return m_place.parent;
 }
 
 boost::weak_ptr<Track const> MediaImpl::parentTrack() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return m_parent;
+    return m_place.parent;
 }
 
 Range<double> const& MediaImpl::mediaRange() const
@@ -95,7 +96,7 @@ Range<double> const& MediaImpl::mediaRange() const
 Range<long long> const& MediaImpl::trackRange() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return m_trackRange;
+    return m_place.range;
 }
 
 double MediaImpl::scalar() const
@@ -119,7 +120,7 @@ double MediaImpl::mediaEndLimit() const
 MediaTiming MediaImpl::timing() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return MediaTiming{m_trackRange, m_mediaRange, m_scalar, m_mediaStartLimit, m_mediaEndLimit};
+    return MediaTiming{m_place.range, m_mediaRange, m_scalar, m_mediaStartLimit, m_mediaEndLimit};
 }
 
 double MediaImpl::findScalar(double requested) const
@@ -141,8 +142,8 @@ Range<long long> MediaImpl::trackRangeWithStretch(double scalar) const
     // Kept so: this scales the present length where the stretch scales the natural one; the two
     // differ for a media that is stretched already.
     double const duration =
-        roundToWhole(findScalar(scalar) * static_cast<double>(m_trackRange.duration));
-    return Range<long long>(m_trackRange.start,
+        roundToWhole(findScalar(scalar) * static_cast<double>(m_place.range.duration));
+    return Range<long long>(m_place.range.start,
                             isWholeDuration(duration) ? static_cast<long long>(duration) : 0);
 }
 
@@ -162,41 +163,41 @@ long long MediaImpl::trimStartLimit() const
 
 void MediaImpl::move(long long offset)
 {
-    mediaEditor().move(offset, m_trackRange, m_mediaRange);
+    mediaEditor().move(offset, m_place.range, m_mediaRange);
     notify();
 }
 
 void MediaImpl::trimStart(long long offset)
 {
-    mediaEditor().trimStart(offset, m_trackRange, m_mediaRange);
+    mediaEditor().trimStart(offset, m_place.range, m_mediaRange);
     notify();
 }
 
 bool MediaImpl::validTrimStart(long long offset)
 {
-    return mediaEditor().validTrimStart(offset, m_trackRange, m_mediaRange);
+    return mediaEditor().validTrimStart(offset, m_place.range, m_mediaRange);
 }
 
 void MediaImpl::trimEnd(long long offset)
 {
-    mediaEditor().trimEnd(offset, m_trackRange, m_mediaRange);
+    mediaEditor().trimEnd(offset, m_place.range, m_mediaRange);
     notify();
 }
 
 bool MediaImpl::validTrimEnd(long long offset)
 {
-    return mediaEditor().validTrimEnd(offset, m_trackRange, m_mediaRange);
+    return mediaEditor().validTrimEnd(offset, m_place.range, m_mediaRange);
 }
 
 void MediaImpl::setTrackStart(long long time)
 {
-    m_trackRange.start = time;
+    m_place.range.start = time;
     notify();
 }
 
 double MediaImpl::stretch(double scalar)
 {
-    mediaEditor().stretch(scalar, m_trackRange, m_mediaRange, m_scalar);
+    mediaEditor().stretch(scalar, m_place.range, m_mediaRange, m_scalar);
     notify();
     return m_scalar;
 }
@@ -204,19 +205,19 @@ double MediaImpl::stretch(double scalar)
 long long MediaImpl::startTime() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return m_trackRange.start;
+    return m_place.range.start;
 }
 
 long long MediaImpl::endTime() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return saturatedSum(m_trackRange.start, m_trackRange.duration);
+    return saturatedSum(m_place.range.start, m_place.range.duration);
 }
 
 long long MediaImpl::duration() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return m_trackRange.duration;
+    return m_place.range.duration;
 }
 
 double MediaImpl::toParameterTime(double time) const
@@ -234,7 +235,7 @@ double MediaImpl::fromParameterTime(double time) const
 long long MediaImpl::fromGlobalToParametricTime(long long time) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return saturatedDifference(time, m_trackRange.start);
+    return saturatedDifference(time, m_place.range.start);
 }
 
 long long MediaImpl::globalTimeToEffectTime(long long time) const
@@ -242,7 +243,7 @@ long long MediaImpl::globalTimeToEffectTime(long long time) const
     ReadWriteMutex::ScopedReadLock lock(mutex());
     // Kept so: the track start is taken off after the conversion, at natural speed.
     return clampedTruncate(toParameterTime(static_cast<double>(time)) -
-                           static_cast<double>(m_trackRange.start));
+                           static_cast<double>(m_place.range.start));
 }
 
 int MediaImpl::numParameters() const

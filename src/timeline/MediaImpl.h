@@ -72,6 +72,8 @@ public:
     /// start) lies in an edge. Asked again from within such a function, gives `value` back.
     double doubleParametricTransform(boost::shared_ptr<ParameterInterface const> const& parameter,
                                      double value, double time) const override;
+    /// Unless one of its edges bends that parameter.
+    bool showsAsStored(ParameterInterface const* parameter) const override;
     /// From edit units since the media's start to the source's clock, where the key frames lie.
     double toParameterTime(double time) const override;
     double fromParameterTime(double time) const override;
@@ -131,6 +133,8 @@ protected:
 private:
     struct EdgeRoom;
 
+    VectorEffectable const& effects() const;
+    VectorEffectable& effects();
     EdgeRoom edgeRoom() const;
     double transformWithEdgeMods(std::list<EdgeModification> const& modifications,
                                  boost::shared_ptr<ParameterInterface const> const& parameter,
@@ -141,12 +145,9 @@ private:
 
     double m_mediaStartLimit;
     double m_mediaEndLimit;
-    boost::weak_ptr<Track> m_parent;
-    Range<long long> m_trackRange;
     Range<double> m_mediaRange;
     double m_scalar;
-    LinkList m_links;
-    boost::shared_ptr<VectorEffectable> m_effects;
+    boost::shared_ptr<VectorEffectable> m_effects;  // made for the first effect
     long long m_leftEdgeLength;
     long long m_rightEdgeLength;
     std::list<EdgeModification> m_leftEdgeMods;

@@ -1,5 +1,6 @@
 #include "timeline/MediaImpl.h"
 
+#include "datatypes/XmlText.h"
 #include "edgemods/AuxEdgeModInfo.h"
 #include "edgemods/EdgeModCloneUtil.h"
 #include "edgemods/EdgeModFunc.h"
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <ostream>
 #include <utility>
 
 namespace tarn {
@@ -81,6 +81,14 @@ ModificationList::const_iterator findFor(ModificationList const& modifications,
                         [&parameter](EdgeModification const& m) { return isFor(m, parameter); });
 }
 
+bool bends(ModificationList const& modifications, ParameterInterface const* parameter)
+{
+    return std::any_of(modifications.begin(), modifications.end(),
+                       [parameter](EdgeModification const& modification) {
+                           return modification.isFor(parameter);
+                       });
+}
+
 void throwIfAlreadyModForParam(EdgeModification const& modification,
                                ModificationList const& modifications)
 {
@@ -138,14 +146,14 @@ void aimFunctionsAt(ModificationList& modifications,
 
 void printEdgeModXML(EdgeModification const& modification, XMLable::Options& options, int indent)
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<EdgeMod parameter=\"";
+    XmlText out(options);
+    out.indent(indent) << "<EdgeMod parameter=\"";
     if (modification.parameter())
         out << modification.parameter()->xmlIdent();
     // Kept so: the function's element follows on the same line.
     out << "\">";
     modification.func().toXML(options, indent + 1, "");
-    out << XMLable::genIndent(indent) << "</EdgeMod>\n";
+    out.indent(indent) << "</EdgeMod>\n";
 }
 
 }  // namespace
@@ -161,7 +169,7 @@ struct MediaImpl::EdgeRoom
 MediaImpl::EdgeRoom MediaImpl::edgeRoom() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    long long const duration = m_trackRange.duration;
+    long long const duration = m_place.range.duration;
     return EdgeRoom{limitedEdgeLength(duration, m_leftEdgeLength, m_rightEdgeLength),
                     limitedEdgeLength(duration, m_rightEdgeLength, m_leftEdgeLength), duration};
 }
@@ -186,22 +194,27 @@ double MediaImpl::doubleParametricTransform(
     return value;
 }
 
+bool MediaImpl::showsAsStored(ParameterInterface const* parameter) const
+{
+    return !parameter || (!bends(m_leftEdgeMods, parameter) && !bends(m_rightEdgeMods, parameter));
+}
+
 double MediaImpl::transformWithEdgeMods(
     ModificationList const& modifications,
     boost::shared_ptr<ParameterInterface const> const& parameter, double value,
     double position) const
 {
-    // The function runs on a copy, as it may run long after the lists have changed.
-    std::unique_ptr<EdgeModification> modification;
+    // Run without the lock, so it may run long after the lists have changed.
+    boost::shared_ptr<EdgeModFunc const> func;
     {
         ReadWriteMutex::ScopedReadLock lock(mutex());
         ModificationList::const_iterator const found = findFor(modifications, parameter);
         if (found == modifications.end() || TransformInProgress::contains(this, parameter.get()))
             return value;
-        modification.reset(new EdgeModification(*found));
+        func = found->sharedFunc();
     }
     TransformInProgress const mark(this, parameter.get());
-    return modification->func().execute(position, value);
+    return func->execute(position, value);
 }
 
 void MediaImpl::setLeftEdgeModificationLength(long long length)
@@ -284,17 +297,15 @@ void MediaImpl::aimEdgeFunctionsAt(boost::shared_ptr<VisualMedia const> const& m
 
 void MediaImpl::printEdgeModsXML(XMLable::Options& options, int indent) const
 {
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<LeftEdgeMods length=\"" << leftEdgeModificationLength()
-        << "\">\n";
+    XmlText out(options);
+    out.indent(indent) << "<LeftEdgeMods length=\"" << leftEdgeModificationLength() << "\">\n";
     for (EdgeModification const& modification : leftEdgeModifications())
         printEdgeModXML(modification, options, indent + 1);
-    out << XMLable::genIndent(indent) << "</LeftEdgeMods>\n";
-    out << XMLable::genIndent(indent) << "<RightEdgeMods length=\"" << rightEdgeModificationLength()
-        << "\">\n";
+    out.indent(indent) << "</LeftEdgeMods>\n";
+    out.indent(indent) << "<RightEdgeMods length=\"" << rightEdgeModificationLength() << "\">\n";
     for (EdgeModification const& modification : rightEdgeModifications())
         printEdgeModXML(modification, options, indent + 1);
-    out << XMLable::genIndent(indent) << "</RightEdgeMods>\n";
+    out.indent(indent) << "</RightEdgeMods>\n";
 }
 
 }  // namespace tarn

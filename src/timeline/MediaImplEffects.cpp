@@ -5,9 +5,23 @@
 
 namespace tarn {
 
+VectorEffectable const& MediaImpl::effects() const
+{
+    // Never freed, as medias of a host may die last.
+    static VectorEffectable const& s_none = *new VectorEffectable;
+    return m_effects ? *m_effects : s_none;
+}
+
+VectorEffectable& MediaImpl::effects()
+{
+    if (!m_effects)
+        m_effects.reset(new VectorEffectable);
+    return *m_effects;
+}
+
 int MediaImpl::addEffect(boost::shared_ptr<Effect> const& effect)
 {
-    int const index = m_effects->addEffect(effect);
+    int const index = effects().addEffect(effect);
     if (effect)
         effect->setEffectTimeConverter(this);
     notify();
@@ -16,7 +30,7 @@ int MediaImpl::addEffect(boost::shared_ptr<Effect> const& effect)
 
 void MediaImpl::insertEffect(boost::shared_ptr<Effect> const& effect, int index)
 {
-    m_effects->insertEffect(effect, index);
+    effects().insertEffect(effect, index);
     if (effect)
         effect->setEffectTimeConverter(this);
     notify();
@@ -24,13 +38,13 @@ void MediaImpl::insertEffect(boost::shared_ptr<Effect> const& effect, int index)
 
 void MediaImpl::swapEffectOrder(int index1, int index2)
 {
-    m_effects->swapEffectOrder(index1, index2);
+    effects().swapEffectOrder(index1, index2);
     notify();
 }
 
 RemovedEffect MediaImpl::removeEffect(boost::shared_ptr<Effect const> const& effect)
 {
-    RemovedEffect const removed = m_effects->removeEffect(effect);
+    RemovedEffect const removed = effects().removeEffect(effect);
     if (removed.first)
         removed.first->setEffectTimeConverter(nullptr);
     notify();
@@ -40,8 +54,8 @@ RemovedEffect MediaImpl::removeEffect(boost::shared_ptr<Effect const> const& eff
 RemovedEffect MediaImpl::removeEffect(int index)
 {
     // The list tells what follows the removed effect, so the effect itself is fetched first.
-    boost::shared_ptr<Effect> const effect = m_effects->effectAtIndex(index);
-    RemovedEffect const following = m_effects->removeEffect(index);
+    boost::shared_ptr<Effect> const effect = effects().effectAtIndex(index);
+    RemovedEffect const following = effects().removeEffect(index);
     if (effect)
         effect->setEffectTimeConverter(nullptr);
     notify();
@@ -50,20 +64,19 @@ RemovedEffect MediaImpl::removeEffect(int index)
 
 boost::shared_ptr<Effect> MediaImpl::effectAtIndex(int index)
 {
-    return m_effects->effectAtIndex(index);
+    return effects().effectAtIndex(index);
 }
 
 boost::shared_ptr<Effect const> MediaImpl::effectAtIndex(int index) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    VectorEffectable const& effects = *m_effects;
-    return effects.effectAtIndex(index);
+    return effects().effectAtIndex(index);
 }
 
 int MediaImpl::numEffects() const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return m_effects->numEffects();
+    return effects().numEffects();
 }
 
 }  // namespace tarn

@@ -32,10 +32,10 @@ void MediaImpl::link(boost::shared_ptr<Media> const& other)
     boost::shared_ptr<Media> const self = shared_from_this();
     throwIfDeadLink(*this);
     throwIfDeadLink(*other);
-    m_links.push_back(other);
+    m_place.links.push_back(other);
     other->link(self);
     // The list may grow under the walk, by what the calls find linked with the others.
-    for (LinkList::iterator it = m_links.begin(); it != m_links.end(); ++it)
+    for (LinkList::iterator it = m_place.links.begin(); it != m_place.links.end(); ++it)
         lockLink(*it)->link(other);
 }
 
@@ -43,7 +43,7 @@ void MediaImpl::addLink(boost::shared_ptr<Media> const& other)
 {
     if (!isLinkableWith(other))
         throw TarnMediaLibException("unable to link media");
-    m_links.push_back(other);
+    m_place.links.push_back(other);
     notify();
 }
 
@@ -63,9 +63,9 @@ void MediaImpl::removeLink(boost::shared_ptr<Media> const& other)
 
 void MediaImpl::removeFromLinkedMediaList(boost::shared_ptr<Media> const& other)
 {
-    for (LinkList::iterator it = m_links.begin(); it != m_links.end(); ++it) {
+    for (LinkList::iterator it = m_place.links.begin(); it != m_place.links.end(); ++it) {
         if (lockLink(*it) == other) {
-            m_links.erase(it);
+            m_place.links.erase(it);
             notify();
             return;
         }
@@ -76,7 +76,7 @@ void MediaImpl::removeFromLinkedMediaList(boost::shared_ptr<Media> const& other)
 bool MediaImpl::isLinkedWith(boost::shared_ptr<Media const> const& other) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return other && std::any_of(m_links.begin(), m_links.end(),
+    return other && std::any_of(m_place.links.begin(), m_place.links.end(),
                                 [&other](boost::weak_ptr<Media> const& link) {
                                     return link.lock() == other;
                                 });
@@ -85,30 +85,30 @@ bool MediaImpl::isLinkedWith(boost::shared_ptr<Media const> const& other) const
 ConstIterator<Media::LinkList> MediaImpl::linkBegin() const
 {
     boost::shared_ptr<SharedReadLock const> const lock = SharedReadLock::acquire(projectMutex());
-    return ConstIterator<LinkList>(m_links.begin(), lock);
+    return ConstIterator<LinkList>(m_place.links.begin(), lock);
 }
 
 Media::LinkList::iterator MediaImpl::linkBegin()
 {
-    return m_links.begin();
+    return m_place.links.begin();
 }
 
 ConstIterator<Media::LinkList> MediaImpl::linkEnd() const
 {
     boost::shared_ptr<SharedReadLock const> const lock = SharedReadLock::acquire(projectMutex());
-    return ConstIterator<LinkList>(m_links.end(), lock);
+    return ConstIterator<LinkList>(m_place.links.end(), lock);
 }
 
 Media::LinkList::iterator MediaImpl::linkEnd()
 {
-    return m_links.end();
+    return m_place.links.end();
 }
 
 bool MediaImpl::isLinkableWith(boost::shared_ptr<Media const> const& other) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
     return other && other.get() != this && !isLinkedWith(other) &&
-           m_trackRange == other->trackRange() && m_mediaRange == other->mediaRange();
+           m_place.range == other->trackRange() && m_mediaRange == other->mediaRange();
 }
 
 }  // namespace tarn

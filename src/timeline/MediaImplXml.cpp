@@ -1,8 +1,7 @@
 #include "timeline/MediaImpl.h"
 
+#include "datatypes/XmlText.h"
 #include "exceptions/DanglingWeakPtrException.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -15,16 +14,16 @@ void MediaImpl::xmlOfAttributes(XMLable::Options& options, int indent) const
 
 void MediaImpl::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "MediaImpl";
+    XmlText(options) << "MediaImpl";
 }
 
 void MediaImpl::xmlAttributes(XMLable::Options& options) const
 {
     MediaTiming const now = timing();
-    *options.stream << "start=\"" << now.trackRange.start << "\" duration=\""
-                    << now.trackRange.duration << "\" scalar=\"" << now.scalar << "\" mediaStart=\""
-                    << now.mediaRange.start << "\" mediaDuration=\"" << now.mediaRange.duration
-                    << '"';
+    XmlText(options) << "start=\"" << now.trackRange.start << "\" duration=\""
+                     << now.trackRange.duration << "\" scalar=\"" << now.scalar
+                     << "\" mediaStart=\"" << now.mediaRange.start << "\" mediaDuration=\""
+                     << now.mediaRange.duration << '"';
 }
 
 void MediaImpl::xmlBody(XMLable::Options& options, int indent) const
@@ -37,18 +36,17 @@ void MediaImpl::xmlBody(XMLable::Options& options, int indent) const
 void MediaImpl::printLinksXML(XMLable::Options& options, int indent) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    if (m_links.empty())
+    if (m_place.links.empty())
         return;
-    std::ostream& out = *options.stream;
-    out << XMLable::genIndent(indent) << "<LinkedMedia>\n";
-    for (boost::weak_ptr<Media> const& link : m_links) {
+    XmlText out(options);
+    out.indent(indent) << "<LinkedMedia>\n";
+    for (boost::weak_ptr<Media> const& link : m_place.links) {
         boost::shared_ptr<Media const> const media = link.lock();
         if (!media)
             throw DanglingWeakPtrException<Media const>();
-        out << XMLable::genIndent(indent + 1) << "<MediaLink link=\"" << media->xmlIdent()
-            << "\"/>\n";
+        out.indent(indent + 1) << "<MediaLink link=\"" << media->xmlIdent() << "\"/>\n";
     }
-    out << XMLable::genIndent(indent) << "</LinkedMedia>\n";
+    out.indent(indent) << "</LinkedMedia>\n";
 }
 
 }  // namespace tarn

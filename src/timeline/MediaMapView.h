@@ -23,6 +23,7 @@ public:
 
     iterator begin() const { return iterator(m_medias->begin()); }
     iterator end() const { return iterator(m_medias->end()); }
+    /// The media that starts exactly there, else end().
     iterator find(long long start) const { return iterator(m_medias->find(start)); }
     std::size_t size() const { return m_medias->size(); }
     bool empty() const { return m_medias->empty(); }

@@ -2,6 +2,7 @@
 
 #include "datatypes/SaturatedArithmetic.h"
 #include "datatypes/UpdateCollector.h"
+#include "datatypes/XmlText.h"
 #include "effects/Effect.h"
 #include "effects/VectorEffectable.h"
 #include "exceptions/IndexException.h"
@@ -16,7 +17,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <ostream>
 
 namespace tarn {
 
@@ -283,6 +283,11 @@ int Mixer::numEffects() const
 
 // The clock of the parameters.
 
+bool Mixer::showsAsStored(ParameterInterface const*) const
+{
+    return true;
+}
+
 double Mixer::toParameterTime(double time) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
@@ -305,7 +310,7 @@ long long Mixer::fromGlobalToParametricTime(long long time) const
 
 void Mixer::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Mixer";
+    XmlText(options) << "Mixer";
 }
 
 void Mixer::xmlAttributes(XMLable::Options&) const {}
@@ -314,11 +319,11 @@ void Mixer::xmlBody(XMLable::Options& options, int indent) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
     xmlOfParametersEffectsAttributes(options, indent);
-    *options.stream << genIndent(indent) << "<Tracks>\n";
+    XmlText(options).indent(indent) << "<Tracks>\n";
     for (boost::shared_ptr<Track> const& track : trackList()) {
         track->toXML(options, indent + 1, "");
     }
-    *options.stream << genIndent(indent) << "</Tracks>\n";
+    XmlText(options).indent(indent) << "</Tracks>\n";
 }
 
 }  // namespace tarn

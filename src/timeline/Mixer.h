@@ -57,6 +57,8 @@ public:
     /// Goes to the UpdateCollector while that is collecting.
     void notify() const override;
 
+    /// The tracks themselves, back to front for pictures. Takes no lock; a host reads by the
+    /// iterators.
     virtual TrackList& trackList() = 0;
     virtual TrackList const& trackList() const = 0;
 
@@ -69,18 +71,23 @@ public:
 
     std::string description() const override;
 
+    /// The tracks in order. The const forms hold the read lock for their life; the others hold
+    /// none.
     TrackList::iterator trackBegin();
     TrackList::iterator trackEnd();
     ConstTrackIterator trackBegin() const;
     ConstTrackIterator trackEnd() const;
+    /// Read lock.
     unsigned int numTracks() const;
     /// @throws IndexException
     boost::shared_ptr<Track> trackAtIndex(unsigned int index);
     boost::shared_ptr<Track const> trackAtIndex(unsigned int index) const;
     /// -1 when the track is not here.
     int indexForTrack(boost::shared_ptr<Track const> const& track) const;
+    /// Whether this very track is here. Read lock.
     bool hasTrack(boost::shared_ptr<Track const> const& track) const;
 
+    /// Takes all tracks off at once; notifies. Write lock.
     void removeTracks();
     /// Inserts before `index`; -1 and the number of tracks both append.
     /// @throws ValueException<int> for any other index
@@ -96,7 +103,9 @@ public:
     template <class T>
     std::pair<boost::shared_ptr<T>, int> removeTrack(boost::shared_ptr<T const> const& track);
 
+    /// Whether a media on any track shows that source. Read lock.
     bool hasInstanceOf(boost::shared_ptr<Source const> const& source) const;
+    /// The medias that show that source, by track and by time. Read lock.
     boost::shared_ptr<ConstMediaList> instancesOf(
         boost::shared_ptr<Source const> const& source) const;
 
@@ -114,6 +123,8 @@ public:
     int numEffects() const override;
 
     // Parameters run on the timeline's clock, so each conversion gives its argument back.
+    /// Always.
+    bool showsAsStored(ParameterInterface const* parameter) const override;
     double toParameterTime(double time) const override;
     double fromParameterTime(double time) const override;
     long long fromGlobalToParametricTime(long long time) const override;

@@ -3,6 +3,7 @@
 #include "datatypes/Export.h"
 
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
@@ -12,7 +13,7 @@ class TARN_API Pair
 {
 public:
     Pair() : first(), second() {}
-    Pair(T const& left, T const& right) : first(left), second(right) {}
+    Pair(T left, T right) : first(std::move(left)), second(std::move(right)) {}
 
     T first;
     T second;

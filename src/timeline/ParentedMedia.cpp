@@ -9,7 +9,7 @@ ParentedMedia::ParentedMedia(boost::shared_ptr<Media> const& media) : m_media(me
 
 void ParentedMedia::assertParented() const
 {
-    if (m_media->parentTrack().expired()) {
+    if (!m_media->isPlaced()) {
         throw ValueException<boost::shared_ptr<Media>>(
             "trying to edit a parentless media like a parented media", m_media);
     }

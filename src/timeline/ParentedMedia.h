@@ -8,7 +8,8 @@
 namespace tarn {
 
 /// A media on its way through its track's hands. Only a media with a live parent may be edited like
-/// this, since its start is the key of an entry in the parent's map.
+/// this, since its start is the key of an entry in the parent's map. For edits, under the write
+/// lock.
 class TARN_API ParentedMedia
 {
 public:

@@ -9,7 +9,7 @@
 namespace tarn {
 
 SourceTrack::SourceTrack(boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
-                         std::string const& refusal)
+                         char const* refusal)
     : m_strongSource(source), m_source(source), m_trackNumber(trackNumber)
 {
     if (!source || trackNumber >= source->mediaFileStats()->numTracks())

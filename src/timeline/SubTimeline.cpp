@@ -1,9 +1,8 @@
 #include "timeline/SubTimeline.h"
 
+#include "datatypes/XmlText.h"
 #include "effects/Effect.h"
 #include "parameters/Attribute.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -18,31 +17,31 @@ int SubTimeline::numAttributes() const
 
 void SubTimeline::xmlOfParametersEffectsAttributes(XMLable::Options& options, int indent) const
 {
-    std::ostream& out = *options.stream;
+    XmlText out(options);
     if (numParameters() > 0) {
-        out << genIndent(indent) << "<Parameters>\n";
+        out.indent(indent) << "<Parameters>\n";
         xmlOfParameters(options, indent + 1);
-        out << genIndent(indent) << "</Parameters>\n";
+        out.indent(indent) << "</Parameters>\n";
     }
     if (numEffects() >= 1) {
-        out << genIndent(indent) << "<Effects>\n";
+        out.indent(indent) << "<Effects>\n";
         for (int i = 0; i < numEffects(); ++i) {
             if (boost::shared_ptr<Effect const> const effect = effectAtIndex(i)) {
                 effect->toXML(options, indent + 1, "");
             }
         }
-        out << genIndent(indent) << "</Effects>\n";
+        out.indent(indent) << "</Effects>\n";
     }
     if (numAttributes() >= 1) {
-        out << genIndent(indent) << "<Attributes>\n";
+        out.indent(indent) << "<Attributes>\n";
         xmlOfAttributes(options, indent + 1);
-        out << genIndent(indent) << "</Attributes>\n";
+        out.indent(indent) << "</Attributes>\n";
     }
 }
 
 void SubTimeline::xmlOfIdentAttribute(XMLable::Options& options, int indent) const
 {
-    identAttribute()->toXML(options, indent, "name=\"ident\"");
+    xmlOfIdent(options, indent);
 }
 
 }  // namespace tarn

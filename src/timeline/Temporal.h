@@ -11,9 +11,11 @@ class TARN_API Temporal
 public:
     virtual ~Temporal() = default;
 
+    /// The first edit unit that belongs to it.
     virtual long long startTime() const = 0;
     /// The first edit unit that no longer belongs to it.
     virtual long long endTime() const = 0;
+    /// The number of edit units between both.
     virtual long long duration() const = 0;
 
     /// Half-open: from startTime(), duration() long.

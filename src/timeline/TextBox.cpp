@@ -1,12 +1,11 @@
 #include "timeline/TextBox.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/Attribute.h"
 #include "parameters/LeftParameter.h"
 #include "parameters/MTVector.h"
 #include "timeline/ConstMediaDispatcher.h"
 #include "timeline/MediaDispatcher.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -134,17 +133,17 @@ void TextBox::xmlOfAttributes(XMLable::Options& options, int indent) const
 
 void TextBox::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "TextBox";
+    XmlText(options) << "TextBox";
 }
 
 void TextBox::xmlAttributes(XMLable::Options& options) const
 {
     // Kept so: a text box tells its place and size, and nothing of a source's clock.
     MediaTiming const now = timing();
-    *options.stream << "start=\"" << now.trackRange.start << "\" duration=\""
-                    << now.trackRange.duration << "\" width=\"" << m_width->value()
-                    << "\" height=\"" << m_height->value() << "\" trimStartSum=\"" << trimStartSum()
-                    << '"';
+    XmlText(options) << "start=\"" << now.trackRange.start << "\" duration=\""
+                     << now.trackRange.duration << "\" width=\"" << m_width->value()
+                     << "\" height=\"" << m_height->value() << "\" trimStartSum=\""
+                     << trimStartSum() << '"';
 }
 
 }  // namespace tarn

@@ -19,8 +19,10 @@ public:
     /// The const forms take the read lock.
     boost::shared_ptr<LeftParameter<std::string>> text();
     boost::shared_ptr<LeftParameter<std::string> const> text() const;
+    /// The size, in pixels of the picture plane.
     boost::shared_ptr<Attribute<float>> widthAttr();
     boost::shared_ptr<Attribute<float> const> widthAttr() const;
+    /// The size, in pixels of the picture plane.
     boost::shared_ptr<Attribute<float>> heightAttr();
     boost::shared_ptr<Attribute<float> const> heightAttr() const;
 

@@ -1,6 +1,7 @@
 #include "timeline/Timeline.h"
 
 #include "datatypes/SaturatedArithmetic.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/AddRemoveException.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "parameters/LeftParameter.h"
@@ -16,7 +17,6 @@
 #include <boost/make_shared.hpp>
 
 #include <limits>
-#include <ostream>
 
 namespace tarn {
 
@@ -340,7 +340,7 @@ boost::shared_ptr<MTVector<boost::shared_ptr<ParameterInterface const>>> Timelin
 
 void Timeline::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Timeline";
+    XmlText(options) << "Timeline";
 }
 
 void Timeline::xmlAttributes(XMLable::Options&) const {}

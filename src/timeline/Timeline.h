@@ -83,11 +83,14 @@ public:
 
     std::string description() const override;
 
+    /// Read lock, here and below.
     bool hasVisualMixer() const;
     bool hasAudioMixer() const;
     /// Empty when there is none.
     boost::shared_ptr<VisualMixer> visualMixer() const;
     boost::shared_ptr<AudioMixer> audioMixer() const;
+    /// The markers: a name from each key frame on, at edit units of the timeline. Edited by
+    /// AddMarkerCmd and its like.
     boost::shared_ptr<LeftParameter<std::string>> markerParam();
     boost::shared_ptr<LeftParameter<std::string> const> markerParam() const;
 
@@ -104,6 +107,7 @@ public:
 
     /// Those of both mixers.
     unsigned int numTracks() const;
+    /// Whether a media of either mixer shows that source. Read lock.
     bool hasInstanceOf(boost::shared_ptr<Source const> const& source) const;
     /// Visual mixer first, then by track and by time, here and in allMedias().
     boost::shared_ptr<ConstMediaList> instancesOf(

@@ -2,6 +2,7 @@
 
 #include "datatypes/SaturatedArithmetic.h"
 #include "datatypes/UpdateCollector.h"
+#include "datatypes/XmlText.h"
 #include "effects/Effect.h"
 #include "effects/VectorEffectable.h"
 #include "parameters/MTVector.h"
@@ -10,8 +11,6 @@
 #include "timeline/Media.h"
 
 #include <boost/make_shared.hpp>
-
-#include <ostream>
 
 namespace tarn {
 
@@ -176,6 +175,11 @@ int Track::numEffects() const
 
 // Parameters and their clock.
 
+bool Track::showsAsStored(ParameterInterface const*) const
+{
+    return true;
+}
+
 double Track::toParameterTime(double time) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
@@ -210,7 +214,7 @@ boost::shared_ptr<MTVector<boost::shared_ptr<ParameterInterface const>>> Track::
 
 void Track::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "Track";
+    XmlText(options) << "Track";
 }
 
 void Track::xmlAttributes(XMLable::Options&) const {}
@@ -219,11 +223,11 @@ void Track::xmlBody(XMLable::Options& options, int indent) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
     xmlOfParametersEffectsAttributes(options, indent);
-    *options.stream << genIndent(indent) << "<Medias>\n";
+    XmlText(options).indent(indent) << "<Medias>\n";
     for (MediaMap::value_type const& entry : medias()) {
         entry.second->toXML(options, indent + 1, "");
     }
-    *options.stream << genIndent(indent) << "</Medias>\n";
+    XmlText(options).indent(indent) << "</Medias>\n";
 }
 
 void Track::xmlOfParameters(XMLable::Options&, int) const {}

@@ -67,6 +67,7 @@ public:
     /// the original brings those.
     Track* clone() const override = 0;
 
+    /// The medias by their start. Takes no lock; a host reads by the iterators.
     virtual MediaMap& medias() = 0;
     virtual MediaMap const& medias() const = 0;
 
@@ -82,21 +83,28 @@ public:
 
     std::string description() const override;
 
+    /// Read lock.
     unsigned int numMedias() const;
+    /// The medias in time order. The const forms hold the read lock for their life; the others hold
+    /// none.
     MediaMap::iterator mediaBegin();
     MediaMap::iterator mediaEnd();
     ConstMediaIterator mediaBegin() const;
     ConstMediaIterator mediaEnd() const;
+    /// The medias against time order; locks as mediaBegin().
     MediaMap::reverse_iterator mediaRBegin();
     MediaMap::reverse_iterator mediaREnd();
     ConstReverseMediaIterator mediaRBegin() const;
     ConstReverseMediaIterator mediaREnd() const;
+    /// The first media that starts at `time` or later. Holds the read lock for its life.
     ConstMediaIterator lower_bound(long long time) const;
+    /// The first media that starts after `time`. Holds the read lock for its life.
     ConstMediaIterator upper_bound(long long time) const;
 
     /// The very same media, or empty when it is not on this track.
     boost::shared_ptr<Media> findMedia(boost::shared_ptr<Media const> const& media);
     boost::shared_ptr<Media const> findMedia(boost::shared_ptr<Media const> const& media) const;
+    /// Whether this very media is here. Read lock.
     bool hasMedia(boost::shared_ptr<Media const> const& media) const;
 
     /// What lies left and right of a cut at `time`: the same media twice when the cut goes through
@@ -116,8 +124,8 @@ public:
     /// @throws ValueException<boost::shared_ptr<Media const>> when the media is not on this track
     /// @throws CollisionException with the medias in the way
     /// @throws LinkException when the track ranges of linked medias differ
-    /// @throws DanglingWeakPtrException<Media const> or <Track const> for a dead link
-    /// @throws ValueException<long long> or <double> when the media itself refuses the edit
+    /// @throws DanglingWeakPtrException<Media const> or `<Track const>` for a dead link
+    /// @throws ValueException<long long> or `<double>` when the media itself refuses the edit
     /// @{
     void move(boost::shared_ptr<Media const> const& media, long long offset, bool includeLinks);
     void trimStart(boost::shared_ptr<Media const> const& media, long long offset,
@@ -189,7 +197,9 @@ public:
     /// modifications that the range cuts through are left out.
     boost::shared_ptr<Track> copyPortion(Range<long long> const& range, MediaCloneMap* map) const;
 
+    /// Whether a media here shows that source. Read lock.
     bool hasInstanceOf(boost::shared_ptr<Source const> const& source) const;
+    /// The medias that show that source, in time order. Read lock.
     boost::shared_ptr<ConstMediaList> instancesOf(
         boost::shared_ptr<Source const> const& source) const;
 
@@ -198,11 +208,12 @@ public:
 
     /// The media behind a link, and the track it is on. For (Media, Track) and (Media const, Track
     /// const).
-    /// @throws DanglingWeakPtrException<Media const> or <Track const>
+    /// @throws DanglingWeakPtrException<Media const> or `<Track const>`
     template <class M, class T>
     std::pair<boost::shared_ptr<M>, boost::shared_ptr<T>> lockMediaAndTrack(
         boost::weak_ptr<M> const& link) const;
 
+    /// What reaches into `range`, with the part of it that each media covers. Read lock.
     boost::shared_ptr<TrackSubSection<Media>> subSection(Range<long long> const& range) const;
 
     /// The part of `track` in `range`, its medias seen as that kind of track admits them.
@@ -221,6 +232,8 @@ public:
     int numEffects() const override;
 
     // Parameters run on the timeline's clock, so each conversion gives its argument back.
+    /// Always.
+    bool showsAsStored(ParameterInterface const* parameter) const override;
     double toParameterTime(double time) const override;
     double fromParameterTime(double time) const override;
     long long fromGlobalToParametricTime(long long time) const override;
@@ -239,6 +252,10 @@ private:
     /// The mirror of ParentedMedia's test: only a parentless media may come to a track.
     /// @throws ValueException<boost::shared_ptr<Media>>
     static void assertParentless(boost::shared_ptr<Media> const& media);
+
+    MediaMap::iterator entryFreeToTake(boost::shared_ptr<Media const> const& media,
+                                       Range<long long> const& range, bool includeLinks);
+    void rekeyInPlace(MediaMap::iterator entry, long long newKey);
 
     void checkStartIsFree(boost::shared_ptr<Media const> const& media, long long newStart,
                           bool includeLinks) const;

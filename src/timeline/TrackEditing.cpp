@@ -1,5 +1,6 @@
 #include "timeline/Track.h"
 
+#include "datatypes/NotifyDelay.h"
 #include "exceptions/CollisionException.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "exceptions/ValueException.h"
@@ -8,6 +9,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <iterator>
 #include <new>
 #include <utility>
 
@@ -60,7 +62,66 @@ void appendStartingAt(Track const& track, long long start,
     }
 }
 
+void refuseIntersecting(Track const& track, Range<long long> const& range)
+{
+    boost::shared_ptr<ConstMediaList> const inTheWay =
+        track.mediasIntersectingRange(range, boost::shared_ptr<Media const>());
+    if (!inTheWay->empty()) {
+        throw CollisionException(inTheWay);
+    }
+}
+
+/// Whether `range` fits between what lies before and after: nothing else has a unit or the start of
+/// it, nor could have, as medias do not overlap. An empty range is for the full test.
+bool fitsBetween(Track::MediaMap const& medias, Track::MediaMap::const_iterator before,
+                 Track::MediaMap::const_iterator after, Range<long long> const& range)
+{
+    if (range.duration <= 0 || (after != medias.end() && after->first < range.end())) {
+        return false;
+    }
+    return before == medias.end() ||
+           (before->first < range.start && before->second->placedRange().end() <= range.start);
+}
+
+/// The entry before `entry`; the end of the map when there is none.
+Track::MediaMap::const_iterator entryBefore(Track::MediaMap const& medias,
+                                            Track::MediaMap::const_iterator entry)
+{
+    return entry == medias.begin() ? medias.end() : std::prev(entry);
+}
+
 }  // namespace
+
+/// The entry of a media of this track that is free to take `range`: it has no links to spread to,
+/// and keeps its place among the others. The end of the map for any other media, which takes the
+/// way of full tests, and whenever observers would run in the middle of the edit.
+Track::MediaMap::iterator Track::entryFreeToTake(boost::shared_ptr<Media const> const& media,
+                                                 Range<long long> const& range, bool includeLinks)
+{
+    MediaMap& entries = medias();
+    if (!NotifyDelay::isActive() || (includeLinks && media->mayBeLinked())) {
+        return entries.end();
+    }
+    MediaMap::iterator const entry = entries.find(media->placedRange().start);
+    bool const isFree = entry != entries.end() && entry->second == media && media->isPlaced() &&
+                        fitsBetween(entries, entryBefore(entries, entry), std::next(entry), range);
+    return isFree ? entry : entries.end();
+}
+
+/// Gives an entry, whose media has been edited, the key that was found free.
+void Track::rekeyInPlace(MediaMap::iterator entry, long long newKey)
+{
+    MediaMap& entries = medias();
+    boost::shared_ptr<Media> const& media = entry->second;
+    if (media->placedRange().start != newKey) {
+        relocateMedia(boost::shared_ptr<Media>(media), entry->first, media->placedRange().start);
+        return;
+    }
+    MediaMap::iterator const next = std::next(entry);
+    MediaMap::node_type node = entries.extract(entry);
+    node.key() = newKey;
+    entries.insert(next, std::move(node));
+}
 
 void Track::assertParentless(boost::shared_ptr<Media> const& media)
 {
@@ -72,14 +133,15 @@ void Track::assertParentless(boost::shared_ptr<Media> const& media)
 
 void Track::addMediaSansTypeCheck(boost::shared_ptr<Media> const& media, long long time)
 {
-    Track const& self = *this;
     Range<long long> const range(time, media->trackRange().duration);
-    boost::shared_ptr<ConstMediaList> const inTheWay =
-        self.mediasIntersectingRange(range, boost::shared_ptr<Media const>());
-    if (!inTheWay->empty()) {
-        throw CollisionException(inTheWay);
+    MediaMap& entries = medias();
+    MediaMap::iterator const after = entries.upper_bound(time);
+    if (fitsBetween(entries, entryBefore(entries, after), after, range)) {
+        entries.emplace_hint(after, time, media);
+    } else {
+        refuseIntersecting(*this, range);
+        entries[time] = media;
     }
-    medias()[time] = media;
     // Kept so: a collision is reported before a wrong parent, and what was there at `time` is
     // replaced by then. Callers pass parentless medias only.
     assertParentless(media);
@@ -111,6 +173,12 @@ void Track::removeMedia(boost::shared_ptr<Media> const& media, bool includeLinks
 void Track::move(boost::shared_ptr<Media const> const& media, long long offset, bool includeLinks)
 {
     Range<long long> const range = media->trackRangeWithMove(offset);
+    MediaMap::iterator const entry = entryFreeToTake(media, range, includeLinks);
+    if (entry != medias().end()) {
+        entry->second->move(offset);
+        rekeyInPlace(entry, range.start);
+        return;
+    }
     boost::shared_ptr<Media> const own = checkOwnershipAndCollisions(media, range, includeLinks);
     checkStartIsFree(own, range.start, includeLinks);
     moveSansCollision(own, offset, includeLinks);
@@ -120,6 +188,12 @@ void Track::trimStart(boost::shared_ptr<Media const> const& media, long long off
                       bool includeLinks)
 {
     Range<long long> const range = media->trackRangeWithTrimStart(offset);
+    MediaMap::iterator const entry = entryFreeToTake(media, range, includeLinks);
+    if (entry != medias().end()) {
+        entry->second->trimStart(offset);
+        rekeyInPlace(entry, range.start);
+        return;
+    }
     boost::shared_ptr<Media> const own = checkOwnershipAndCollisions(media, range, includeLinks);
     checkStartIsFree(own, range.start, includeLinks);
     trimStartSansCollision(own, offset, includeLinks);
@@ -129,6 +203,11 @@ void Track::trimEnd(boost::shared_ptr<Media const> const& media, long long offse
                     bool includeLinks)
 {
     Range<long long> const range = media->trackRangeWithTrimEnd(offset);
+    MediaMap::iterator const entry = entryFreeToTake(media, range, includeLinks);
+    if (entry != medias().end()) {
+        entry->second->trimEnd(offset);
+        return;
+    }
     trimEndSansCollision(checkOwnershipAndCollisions(media, range, includeLinks), offset,
                          includeLinks);
 }

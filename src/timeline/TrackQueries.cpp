@@ -29,7 +29,7 @@ namespace {
 
 long long endOf(boost::shared_ptr<Media> const& media)
 {
-    return media->endTime();
+    return media->placedRange().end();
 }
 
 /// The last media that starts at or before `time`, or the first of all. The map is not empty.
@@ -48,11 +48,11 @@ void visitIntersecting(Track::MediaMap const& medias, Range<long long> const& ra
     if (range.duration <= 0 || medias.empty()) {
         return;
     }
-    Track::MediaMap::const_iterator const last =
-        medias.upper_bound(saturatedSum(range.start, range.duration));
-    for (auto entry = lastStartingBy(medias, range.start); entry != last; ++entry) {
+    long long const end = range.end();
+    for (auto entry = lastStartingBy(medias, range.start);
+         entry != medias.end() && entry->first <= end; ++entry) {
         boost::shared_ptr<Media> const& media = entry->second;
-        if (media->trackRange().intersection(range).duration > 0 && !visit(media)) {
+        if (media->placedRange().intersection(range).duration > 0 && !visit(media)) {
             return;
         }
     }
@@ -75,29 +75,28 @@ boost::shared_ptr<List> intersecting(Track::MediaMap const& medias, Range<long l
 template <class M>
 Pair<boost::shared_ptr<M>> mediaAround(Track::MediaMap const& medias, long long time)
 {
-    Pair<boost::shared_ptr<M>> result;
+    using Medias = Pair<boost::shared_ptr<M>>;
+    boost::shared_ptr<M> const none;
     if (medias.empty()) {
-        return result;
+        return Medias(none, none);
     }
     Track::MediaMap::const_iterator const entry = lastStartingBy(medias, time);
-    boost::shared_ptr<Media> const& media = entry->second;
-    Range<long long> const range = media->trackRange();
-    long long const end = saturatedSum(range.start, range.duration);
+    Range<long long> const& range = entry->second->placedRange();
+    long long const end = range.end();
     if (range.start < time && time < end) {
-        result = Pair<boost::shared_ptr<M>>(media, media);
-    } else if (time == range.start) {
-        result.second = media;
-        if (entry != medias.begin() && endOf(std::prev(entry)->second) == time) {
-            result.first = std::prev(entry)->second;
-        }
-    } else if (time == end) {
-        result.first = media;
-        Track::MediaMap::const_iterator const next = std::next(entry);
-        if (next != medias.end() && next->second->startTime() == time) {
-            result.second = next->second;
-        }
+        return Medias(entry->second, entry->second);
     }
-    return result;
+    if (time == range.start) {
+        bool const touches = entry != medias.begin() && endOf(std::prev(entry)->second) == time;
+        return touches ? Medias(std::prev(entry)->second, entry->second)
+                       : Medias(none, entry->second);
+    }
+    if (time == end) {
+        Track::MediaMap::const_iterator const next = std::next(entry);
+        bool const touches = next != medias.end() && next->second->placedRange().start == time;
+        return touches ? Medias(entry->second, next->second) : Medias(entry->second, none);
+    }
+    return Medias(none, none);
 }
 
 /// The media that ends where `media` starts, on the track that `media` is on.
@@ -107,7 +106,7 @@ boost::shared_ptr<Media const> leftNeighbour(boost::shared_ptr<Media const> cons
     if (!track) {
         return boost::shared_ptr<Media const>();
     }
-    long long const start = media->startTime();
+    long long const start = media->placedRange().start;
     Track::MediaMap::const_iterator const entry = track->medias().lower_bound(start);
     if (entry == track->medias().begin() || endOf(std::prev(entry)->second) != start) {
         return boost::shared_ptr<Media const>();
@@ -122,8 +121,9 @@ boost::shared_ptr<Media const> rightNeighbour(boost::shared_ptr<Media const> con
     if (!track) {
         return boost::shared_ptr<Media const>();
     }
-    Track::MediaMap::const_iterator const entry = track->medias().upper_bound(media->startTime());
-    if (entry == track->medias().end() || entry->second->startTime() != media->endTime()) {
+    Range<long long> const& range = media->placedRange();
+    Track::MediaMap::const_iterator const entry = track->medias().upper_bound(range.start);
+    if (entry == track->medias().end() || entry->second->placedRange().start != range.end()) {
         return boost::shared_ptr<Media const>();
     }
     return entry->second;
@@ -148,7 +148,7 @@ boost::shared_ptr<Media const> Track::findMedia(boost::shared_ptr<Media const> c
         return boost::shared_ptr<Media const>();
     }
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    MediaMap::const_iterator const entry = medias().find(media->startTime());
+    MediaMap::const_iterator const entry = medias().find(media->placedRange().start);
     return entry != medias().end() && entry->second == media ? entry->second
                                                              : boost::shared_ptr<Media const>();
 }

@@ -16,6 +16,7 @@ template <class M>
 class TARN_API TrackSubSection
 {
 public:
+    /// A media, and the part of the range that it covers.
     class MediaRange
     {
     public:
@@ -30,6 +31,7 @@ public:
 
     using const_iterator = typename std::vector<MediaRange>::const_iterator;
 
+    /// Appends; the caller goes in time order.
     void addMedia(boost::shared_ptr<M const> const& media, Range<long long> const& range)
     {
         m_medias.push_back(MediaRange(media, range));

@@ -1,17 +1,22 @@
 #include "timeline/VMFile.h"
 
 #include "datatypes/ScreenMetaData.h"
+#include "datatypes/XmlText.h"
 #include "parameters/Attribute.h"
 #include "timeline/ConstMediaDispatcher.h"
 #include "timeline/MediaDispatcher.h"
-
-#include <ostream>
 
 namespace tarn {
 
 namespace {
 
-using MetaDataAttribute = Attribute<boost::shared_ptr<ScreenMetaData const>>;
+/// Nothing for one that says what it was made with.
+template <class A>
+boost::shared_ptr<A> cloneIfSet(A const* attribute)
+{
+    return attribute && attribute->value() ? boost::shared_ptr<A>(attribute->clone())
+                                           : boost::shared_ptr<A>();
+}
 
 }  // namespace
 
@@ -29,7 +34,6 @@ VMFile::VMFile(Range<long long> const& range, SourceTrack const& track,
                  static_cast<double>(track.timeRange().end()), project)
     , m_file(track)
     , m_rect(track.rect())
-    , m_screenMetaData(new MetaDataAttribute(boost::shared_ptr<ScreenMetaData const>(), project))
 {}
 
 VMFile::VMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
@@ -37,7 +41,6 @@ VMFile::VMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> 
     : VideoMedia(range, static_cast<double>(range.start), static_cast<double>(range.end()), project)
     , m_file(SourceTrack(fileName))
     , m_rect(rect)
-    , m_screenMetaData(new MetaDataAttribute(boost::shared_ptr<ScreenMetaData const>(), project))
 {}
 
 VMFile::VMFile(VMFile const& other)
@@ -46,7 +49,7 @@ VMFile::VMFile(VMFile const& other)
     , FileRepresentation(other)
     , m_file(other.m_file)
     , m_rect(other.m_rect)
-    , m_screenMetaData(other.m_screenMetaData->clone())
+    , m_screenMetaData(cloneIfSet(other.m_screenMetaData.ifMade()))
 {}
 
 std::string VMFile::fileName() const
@@ -79,14 +82,23 @@ double VMFile::height() const
     return m_rect.height;
 }
 
-boost::shared_ptr<MetaDataAttribute> VMFile::screenMetaData()
+boost::shared_ptr<VMFile::MetaDataAttribute> VMFile::screenMetaData()
 {
-    return m_screenMetaData;
+    return metaDataAttribute();
 }
 
-boost::shared_ptr<MetaDataAttribute const> VMFile::screenMetaData() const
+boost::shared_ptr<VMFile::MetaDataAttribute const> VMFile::screenMetaData() const
 {
-    return m_screenMetaData;
+    return metaDataAttribute();
+}
+
+/// Few pictures are of a screen: the others never make it.
+boost::shared_ptr<VMFile::MetaDataAttribute> const& VMFile::metaDataAttribute() const
+{
+    return m_screenMetaData.get([this](ReservedIdent* ident) {
+        return boost::shared_ptr<MetaDataAttribute>(new MetaDataAttribute(
+            boost::shared_ptr<ScreenMetaData const>(), projectMutex(), *ident));
+    });
 }
 
 void VMFile::grabFrame(double) {}
@@ -129,25 +141,36 @@ int VMFile::numAttributes() const
 void VMFile::xmlOfAttributes(XMLable::Options& options, int indent) const
 {
     VideoMedia::xmlOfAttributes(options, indent);
-    m_screenMetaData->toXML(options, indent, "name=\"screenMetaData\"");
+    std::string const label = "name=\"screenMetaData\"";
+    LateObject<MetaDataAttribute, 1>::Idents ident;
+    if (m_screenMetaData.waitingIdents(ident)) {
+        MetaDataAttribute::xmlBeforeFirstUse(options, indent, label,
+                                             boost::shared_ptr<ScreenMetaData const>(), ident[0]);
+    } else {
+        metaDataAttribute()->toXML(options, indent, label);
+    }
 }
 
 void VMFile::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VMFile";
+    XmlText(options) << "VMFile";
 }
 
 void VMFile::xmlAttributes(XMLable::Options& options) const
 {
     VideoMedia::xmlAttributes(options);
-    *options.stream << " trackNumber=\"" << trackNumber() << "\" src=\"" << m_file.sourceXmlIdent()
-                    << '"';
+    XmlText(options) << " trackNumber=\"" << trackNumber() << "\" src=\"" << m_file.sourceXmlIdent()
+                     << '"';
 }
 
 void VMFile::xmlBody(XMLable::Options& options, int indent) const
 {
     VideoMedia::xmlBody(options, indent);
-    if (boost::shared_ptr<ScreenMetaData const> const metaData = m_screenMetaData->value())
+    MetaDataAttribute const* const attribute = m_screenMetaData.ifMade();
+    boost::shared_ptr<ScreenMetaData const> metaData;
+    if (attribute)
+        metaData = attribute->value();
+    if (metaData)
         metaData->toXML(options, indent, "");
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "datatypes/FileRepresentation.h"
+#include "datatypes/LateObject.h"
 #include "timeline/VideoMedia.h"
 #include "timeline/VisualFileMedia.h"
 
@@ -21,10 +22,13 @@ public:
 
     std::string fileName() const override;
     std::string containerFileName() const override;
+    /// The track of its source that it shows, counted from 0.
     unsigned int trackNumber() const;
+    /// Empty for a file known by name only.
     boost::shared_ptr<Source const> source() const;
     double width() const override;
     double height() const override;
+    /// What was recorded beside the picture; its value is empty for any other video.
     boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>>> screenMetaData();
     boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>> const> screenMetaData()
         const;
@@ -52,12 +56,16 @@ protected:
 private:
     friend class MediaImpl;  // its cloneOf() copies
 
+    using MetaDataAttribute = Attribute<boost::shared_ptr<ScreenMetaData const>>;
+
+    boost::shared_ptr<MetaDataAttribute> const& metaDataAttribute() const;
+
     VMFile(Range<long long> const& range, SourceTrack const& track,
            boost::weak_ptr<ThreadSafe const> const& project);
 
     VisualFileMedia m_file;
     Rect<float> m_rect;
-    boost::shared_ptr<Attribute<boost::shared_ptr<ScreenMetaData const>>> m_screenMetaData;
+    LateObject<MetaDataAttribute, 1> m_screenMetaData;
 };
 
 }  // namespace tarn

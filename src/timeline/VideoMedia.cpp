@@ -1,6 +1,6 @@
 #include "timeline/VideoMedia.h"
 
-#include <ostream>
+#include "datatypes/XmlText.h"
 
 namespace tarn {
 
@@ -20,7 +20,7 @@ std::string VideoMedia::description() const
 
 void VideoMedia::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VideoMedia";
+    XmlText(options) << "VideoMedia";
 }
 
 }  // namespace tarn

@@ -1,45 +1,28 @@
 #include "timeline/VisualMedia.h"
 
+#include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
 #include "parameters/VectorParam.h"
 
-#include <ostream>
-
 namespace tarn {
-
-namespace {
-
-/// Nothing is cut off: every component has one key frame, at time 0.
-boost::shared_ptr<VectorParam> newCrop(boost::weak_ptr<ThreadSafe const> const& project,
-                                       std::string const& name)
-{
-    boost::shared_ptr<VectorParam> const crop(new VectorParam(project, 4, name));
-    for (int i = 0; i < crop->numDimensions(); ++i)
-        crop->at(i)->addKeyFrame(0, 0.0);
-    return crop;
-}
-
-}  // namespace
 
 VisualMedia::VisualMedia(Range<long long> const& sourceRange, double mediaStartLimit,
                          double mediaEndLimit, boost::weak_ptr<ThreadSafe const> const& project)
     : MediaImpl(sourceRange, mediaStartLimit, mediaEndLimit, project)
     , Transformer(project)
-    , m_sourceCrop(newCrop(project, "sourceCrop"))
-    , m_geometryCrop(newCrop(project, "geometryCrop"))
-    , m_opacity(new InterpolatingParam<double>(project, "opacity"))
-{
-    m_opacity->addKeyFrame(0, 1.0);
-}
+    , m_sourceCrop("sourceCrop", 0)
+    , m_geometryCrop("geometryCrop", 0)
+    , m_opacity("opacity", 1)
+{}
 
 VisualMedia::VisualMedia(VisualMedia const& other)
     : XMLIdentified(other)
     , MediaImpl(other)
     , Transformer(other)
-    , m_sourceCrop(other.m_sourceCrop->clone())
-    , m_geometryCrop(other.m_geometryCrop->clone())
-    , m_opacity(other.m_opacity->clone())
+    , m_sourceCrop(other.m_sourceCrop)
+    , m_geometryCrop(other.m_geometryCrop)
+    , m_opacity(other.m_opacity)
 {}
 
 TransformMatrix VisualMedia::transformAtTime(long long time) const
@@ -50,25 +33,46 @@ TransformMatrix VisualMedia::transformAtTime(long long time) const
 
 Rect<double> VisualMedia::sourceCropRectAtTime(long long time) const
 {
-    return cropRectAtTime(*m_sourceCrop, time);
+    return cropRectAtTime(m_sourceCrop, time);
 }
 
 Rect<double> VisualMedia::geometryCropRectAtTime(long long time) const
 {
-    return cropRectAtTime(*m_geometryCrop, time);
+    return cropRectAtTime(m_geometryCrop, time);
 }
 
-Rect<double> VisualMedia::cropRectAtTime(VectorParam const& crop, long long time) const
+Rect<double> VisualMedia::cropRectAtTime(LateVectorParam<4> const& crop, long long time) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
     double const fullWidth = width();
     double const fullHeight = height();
-    double const localTime = static_cast<double>(time);
-    double const nearX = transformedDoubleParameterValueAtTime(crop.at(0), localTime);
-    double const nearY = transformedDoubleParameterValueAtTime(crop.at(1), localTime);
-    double const farX = transformedDoubleParameterValueAtTime(crop.at(2), localTime);
-    double const farY = transformedDoubleParameterValueAtTime(crop.at(3), localTime);
-    return Rect<double>(nearX, nearY, fullWidth - nearX - farX, fullHeight - nearY - farY);
+    double sides[4];
+    unsigned int wanted = 0xf;
+    crop.storeConstants(*this, wanted, 0, sides);
+    crop.storeOthers(*this, *this, static_cast<double>(time), wanted, 0, sides);
+    return Rect<double>(sides[0], sides[1], fullWidth - sides[0] - sides[2],
+                        fullHeight - sides[1] - sides[3]);
+}
+
+void VisualMedia::shownValuesAtTime(double time, double* values) const
+{
+    int const opacity = 8;
+    int const transform = 9;
+    unsigned int wanted = (1u << k_numShownValues) - 1;
+    {
+        ReadWriteMutex::ScopedReadLock lock(mutex());
+        m_sourceCrop.storeConstants(*this, wanted, 0, values);
+        m_geometryCrop.storeConstants(*this, wanted, 4, values);
+        m_opacity.storeConstants(*this, wanted, opacity, values);
+        Transformer::storeConstants(*this, wanted, transform, values);
+    }
+    if (wanted == 0)
+        return;
+    // Edges may call host code, which is no place for a lock.
+    m_sourceCrop.storeOthers(*this, *this, time, wanted, 0, values);
+    m_geometryCrop.storeOthers(*this, *this, time, wanted, 4, values);
+    m_opacity.storeOthers(*this, *this, time, wanted, opacity, values);
+    Transformer::storeOthers(*this, time, wanted, transform, values);
 }
 
 void VisualMedia::setupSharedClone(boost::shared_ptr<Media> const& clone) const
@@ -95,23 +99,23 @@ VisualMedia::parameterVector() const
     boost::shared_ptr<MTVector<boost::shared_ptr<ParameterInterface const>>> const parameters =
         MediaImpl::parameterVector();
     parameters->reserve(23);
-    addVectorParamToParameters(m_sourceCrop, parameters.get());
-    addVectorParamToParameters(m_geometryCrop, parameters.get());
-    parameters->push_back(m_opacity);
+    addVectorParamToParameters(sourceCropParam(), parameters.get());
+    addVectorParamToParameters(geometryCropParam(), parameters.get());
+    parameters->push_back(opacity());
     addTransformerParametersToParameters(this, parameters.get());
     return parameters;
 }
 
 void VisualMedia::xmlOfParameters(XMLable::Options& options, int indent) const
 {
-    m_sourceCrop->toXML(options, indent, "name=\"sourceCrop\"");
-    m_geometryCrop->toXML(options, indent, "name=\"geometryCrop\"");
-    m_opacity->toXML(options, indent, "name=\"opacity\"");
+    m_sourceCrop.toXML(options, indent);
+    m_geometryCrop.toXML(options, indent);
+    m_opacity.toXML(options, indent);
 }
 
 void VisualMedia::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VisualMedia";
+    XmlText(options) << "VisualMedia";
 }
 
 void VisualMedia::xmlBody(XMLable::Options& options, int indent) const

@@ -3,7 +3,8 @@
 #include "datatypes/Rect.h"
 #include "datatypes/TransformMatrix.h"
 #include "datatypes/Transformer.h"
-#include "parameters/ParametersFwd.h"
+#include "parameters/LateDoubleParam.h"
+#include "parameters/LateVectorParam.h"
 #include "timeline/MediaImpl.h"
 
 namespace tarn {
@@ -18,19 +19,38 @@ public:
     VisualMedia(Range<long long> const& sourceRange, double mediaStartLimit, double mediaEndLimit,
                 boost::weak_ptr<ThreadSafe const> const& project);
 
+    /// From the media's own coordinates, in pixels, to its track's, edges included. Read lock.
     virtual TransformMatrix transformAtTime(long long time) const;
+    /// In pixels, without crops and transform.
     virtual double width() const = 0;
+    /// In pixels, without crops and transform.
     virtual double height() const = 0;
 
-    boost::shared_ptr<VectorParam> sourceCropParam() { return m_sourceCrop; }
-    boost::shared_ptr<VectorParam const> sourceCropParam() const { return m_sourceCrop; }
-    boost::shared_ptr<VectorParam> geometryCropParam() { return m_geometryCrop; }
-    boost::shared_ptr<VectorParam const> geometryCropParam() const { return m_geometryCrop; }
-    boost::shared_ptr<InterpolatingParam<double>> opacity() { return m_opacity; }
-    boost::shared_ptr<InterpolatingParam<double> const> opacity() const { return m_opacity; }
+    /// What is not read of the picture, in its own pixels.
+    boost::shared_ptr<VectorParam> sourceCropParam() { return m_sourceCrop.get(*this); }
+    boost::shared_ptr<VectorParam const> sourceCropParam() const { return m_sourceCrop.get(*this); }
+    /// What is not shown of the picture and cannot be hit, in its own pixels.
+    boost::shared_ptr<VectorParam> geometryCropParam() { return m_geometryCrop.get(*this); }
+    boost::shared_ptr<VectorParam const> geometryCropParam() const
+    {
+        return m_geometryCrop.get(*this);
+    }
+    /// From 0, unseen, to 1, which it is at first. Key frames lie on the source's clock.
+    boost::shared_ptr<InterpolatingParam<double>> opacity() { return m_opacity.get(*this); }
+    boost::shared_ptr<InterpolatingParam<double> const> opacity() const
+    {
+        return m_opacity.get(*this);
+    }
+
+    /// How many numbers say how a picture is shown: those of parameterVector(), in its order.
+    static int constexpr k_numShownValues = 23;
+    /// All of them at a local time, each as transformedDoubleParameterValueAtTime() tells it, read
+    /// together: what a renderer asks at every frame. Makes no parameter and allocates nothing.
+    void shownValuesAtTime(double time, double* values) const;
 
     /// What the crop leaves of the picture.
     Rect<double> sourceCropRectAtTime(long long time) const;
+    /// The same of the geometry crop.
     Rect<double> geometryCropRectAtTime(long long time) const;
 
     /// Aims the clone's edge functions at the clone, where they knew their media.
@@ -48,11 +68,11 @@ protected:
     VisualMedia(VisualMedia const& other);
 
 private:
-    Rect<double> cropRectAtTime(VectorParam const& crop, long long time) const;
+    Rect<double> cropRectAtTime(LateVectorParam<4> const& crop, long long time) const;
 
-    boost::shared_ptr<VectorParam> m_sourceCrop;
-    boost::shared_ptr<VectorParam> m_geometryCrop;
-    boost::shared_ptr<InterpolatingParam<double>> m_opacity;
+    LateVectorParam<4> m_sourceCrop;
+    LateVectorParam<4> m_geometryCrop;
+    LateDoubleParam m_opacity;
 };
 
 }  // namespace tarn

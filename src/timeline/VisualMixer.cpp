@@ -2,6 +2,7 @@
 
 #include "datatypes/Point.h"
 #include "datatypes/VectorUtil.h"
+#include "datatypes/XmlText.h"
 #include "exceptions/TypeException.h"
 #include "parameters/Attribute.h"
 #include "parameters/InterpolatingParam.h"
@@ -11,7 +12,6 @@
 #include "timeline/VisualTrack.h"
 
 #include <cmath>
-#include <ostream>
 
 namespace tarn {
 
@@ -323,7 +323,7 @@ boost::shared_ptr<VisualMixer> VisualMixer::copyPortion(ConstMediaVector const& 
 
 void VisualMixer::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VisualMixer";
+    XmlText(options) << "VisualMixer";
 }
 
 void VisualMixer::xmlBody(XMLable::Options& options, int indent) const

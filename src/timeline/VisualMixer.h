@@ -32,6 +32,8 @@ public:
     TrackList& trackList() override;
     TrackList const& trackList() const override;
 
+    /// The tracks from back to front. The const forms hold the read lock for their life; the others
+    /// hold none.
     VisualTrackIterator trackBegin();
     VisualTrackIterator trackEnd();
     ConstVisualTrackIterator trackBegin() const;
@@ -40,7 +42,9 @@ public:
     boost::shared_ptr<AbstractVisualTrack> trackAtIndex(unsigned int index);
     boost::shared_ptr<AbstractVisualTrack const> trackAtIndex(unsigned int index) const;
 
+    /// Of the frame, in pixels.
     boost::shared_ptr<Attribute<float> const> attributeWidth() const;
+    /// Of the frame, in pixels.
     boost::shared_ptr<Attribute<float> const> attributeHeight() const;
 
     /// @name Camera parameters, in the timeline's edit units; the const forms take the read lock
@@ -60,13 +64,22 @@ public:
     boost::shared_ptr<InterpolatingParam<float> const> farClipDistanceParam() const;
     /// @}
 
+    /// From the scene to the eye; `time` is in edit units of the timeline, here and below. See
+    /// TransformMatrix::cameraLookAt().
     TransformMatrix cameraTransformAtTime(long long time) const;
+    /// Left-handed and transposed, meant for points as rows.
     TransformMatrix cameraTransformAtTimeLH(long long time) const;
-    /// The field of view follows from the viewport's height and the distance to what is looked at.
+    /// The field of view follows from the viewport's height h and the distance d to what is looked
+    /// at, 2 atan(h / 2d), so that one unit there is one pixel.
     TransformMatrix projectionTransformAtTime(long long time, Rect<int> const& viewport) const;
+    /// Left-handed and transposed, meant for points as rows.
     TransformMatrix projectionTransformAtTimeLH(long long time, Rect<int> const& viewport) const;
+    /// In pixels of the picture plane.
     double distanceBetweenEyeAndLookAt(long long time) const;
 
+    /// A mixer with clones of what lies in `range` (edit units of the timeline) on those of its
+    /// tracks that are named, or of the medias as a whole. Links between copied medias hold between
+    /// their clones; `map`, which may be null, receives each pair. Read lock.
     boost::shared_ptr<VisualMixer> copyPortion(Range<long long> const& range,
                                                ConstTrackSet const& tracks,
                                                MediaCloneMap* map) const;

@@ -1,5 +1,6 @@
 #include "timeline/VisualTrack.h"
 
+#include "datatypes/XmlText.h"
 #include "exceptions/TypeException.h"
 #include "project/ReadWriteMutex.h"
 #include "timeline/AMFile.h"
@@ -12,8 +13,6 @@
 #include "timeline/TextBox.h"
 #include "timeline/TrackDispatcher.h"
 #include "timeline/VMFile.h"
-
-#include <ostream>
 
 namespace tarn {
 
@@ -99,7 +98,7 @@ MediaMapView<VisualMedia const> VisualTrack::visualMedias() const
 
 void VisualTrack::xmlName(XMLable::Options& options) const
 {
-    *options.stream << "VisualTrack";
+    XmlText(options) << "VisualTrack";
 }
 
 }  // namespace tarn

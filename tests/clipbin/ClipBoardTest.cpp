@@ -4,6 +4,7 @@
 #include "exceptions/TarnMediaLibException.h"
 #include "support/FakeProject.h"
 #include "support/ModelTest.h"
+#include "support/Thrown.h"
 #include "timeline/Timeline.h"
 
 #include <gtest/gtest.h>
@@ -110,6 +111,13 @@ TEST_F(ProjectsClipBoardTest, TheHandlerPutsOnAndTakesOff)
     EXPECT_EQ(clipping, project->clipBoard()->clippings().front());
     project->removeClipping(clipping);
     EXPECT_EQ(0u, project->clipBoard()->size());
+}
+
+TEST_F(ClipBoardTest, NothingIsNoClipping)
+{
+    EXPECT_STREQ("attempting to add an empty clipping",
+                 thrownBy<TarnMediaLibException>([this] { board.addClipping(nullptr); }).what());
+    EXPECT_EQ(0u, board.size());
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "exceptions/IndexException.h"
 #include "support/FakeStatsLoader.h"
 #include "support/MediaFiles.h"
+#include "support/Thrown.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -205,6 +206,7 @@ TEST(MediaFileStatsTest, EveryOperationRefusesAnIndexThatIsNoTrack)
     Stats const stats = emptyStats();
     stats->addTrackStats(FakeStatsLoader::picture(100));
     MediaFileStats const& constStats = *stats;
+    EXPECT_STREQ("Invalid index 1", thrownBy<IndexException>([&] { stats->trackStats(1); }).what());
     EXPECT_EQ(1, refusedIndex([&] { stats->trackStats(1); }));
     EXPECT_EQ(1, refusedIndex([&] { constStats.trackStats(1); }));
     EXPECT_EQ(1, refusedIndex([&] { stats->trackRange(1); }));

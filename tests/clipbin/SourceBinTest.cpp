@@ -208,6 +208,16 @@ TEST_F(SourceBinTest, SentriesAreNotAskedAboutAnAddedSource)
     EXPECT_EQ("", log);
 }
 
+TEST_F(SourceBinTest, NothingIsNoSourceAndNoSentry)
+{
+    EXPECT_STREQ("attempting to add an empty source",
+                 thrownBy<TarnMediaLibException>([this] { bin->addSource(nullptr); }).what());
+    EXPECT_STREQ("attempting to add an empty sentry",
+                 thrownBy<TarnMediaLibException>([this] { bin->addSentry(nullptr); }).what());
+    EXPECT_EQ("", files());
+    EXPECT_EQ(0, observer.calls());
+}
+
 TEST_F(SourceBinTest, AnAdditionIsTold)
 {
     bin->addSource(load("fake:a"));

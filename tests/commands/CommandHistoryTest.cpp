@@ -98,6 +98,12 @@ TEST_F(CommandHistoryTest, ExecutesWithItsHandlerAndRecords)
     EXPECT_EQ(1, m_observer.calls());
 }
 
+TEST_F(CommandHistoryTest, NothingIsNoCommand)
+{
+    EXPECT_EQ("no command to execute", messageOf([this] { m_history.execute(nullptr); }));
+    EXPECT_EQ(0u, m_history.numUndoCommands());
+}
+
 TEST_F(CommandHistoryTest, ACommandThatFindsNothingToDoIsNotRecorded)
 {
     m_a->result = false;
@@ -383,7 +389,7 @@ TEST_F(CommandHistoryTest, ACombinationThatGivesNoCommandIsRefusedAndLeavesBothE
     stubborn->m_throws = false;
     m_history.execute(stubborn);
     m_history.execute(m_a);
-    EXPECT_THROW(m_history.combineLastCommands(), TarnMediaLibException);
+    EXPECT_EQ("no command from combining", messageOf([this] { m_history.combineLastCommands(); }));
     EXPECT_EQ(2u, m_history.numUndoCommands());
 }
 

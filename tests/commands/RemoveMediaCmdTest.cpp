@@ -1,5 +1,6 @@
 #include "commands/RemoveMediaCmd.h"
 
+#include "support/Clip.h"
 #include "support/CommandXml.h"
 #include "support/ModelTest.h"
 
@@ -83,6 +84,30 @@ TEST_F(RemoveMediaCmdTest, AMediaOfAnotherTrackIsRefusedAndTheStrangerStays)
         RemoveMediaCmd<Media>::create(track("V2"), media("V1.a"));
     EXPECT_TRUE(
         refuses<TarnMediaLibException>(command, "trying to remove a media thats already removed"));
+}
+
+/// A kind of a host's own, which lies on a track when it is looked at and on none when it is
+/// edited.
+class Fleeting : public Clip
+{
+public:
+    using Clip::Clip;
+
+    boost::weak_ptr<Track> parentTrack() override { return boost::weak_ptr<Track>(); }
+    boost::weak_ptr<Track const> parentTrack() const override { return claimed; }
+
+    boost::weak_ptr<Track const> claimed;
+};
+
+TEST_F(RemoveMediaCmdTest, ALinkedMediaThatLosesItsTrackIsRefusedBeforeAnythingChanges)
+{
+    given("V1: aaabb");
+    boost::shared_ptr<Fleeting> const fleeting(
+        new Fleeting(Range<long long>(0, 30), 0, 1000, lock()));
+    fleeting->claimed = track("V1");
+    media("V1.a")->link(fleeting);
+    EXPECT_TRUE(refuses<TarnMediaLibException>(remove("V1.a"),
+                                               "attempting to remove a media with a null track"));
 }
 
 TEST_F(RemoveMediaCmdTest, ADeadLinkIsRefusedBeforeAnythingChanges)

@@ -5,15 +5,18 @@
 #include "exceptions/TarnMediaLibException.h"
 #include "parameters/LeftParameter.h"
 #include "support/FakeProject.h"
+#include "support/OtherThread.h"
 #include "support/Thrown.h"
 #include "support/Xml.h"
 
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <functional>
 #include <sstream>
 #include <stdexcept>
+#include <thread>
 #include <vector>
 
 namespace tarn {
@@ -47,6 +50,25 @@ public:
     boost::weak_ptr<ProjectEditRate const> rate;
     bool failing = false;
     bool empty = false;
+};
+
+/// Answers when two threads have asked.
+class MeetingLoader : public ScreenMetaDataLoader
+{
+public:
+    boost::shared_ptr<ParameterInterface> loadParameter(
+        std::string const&, std::string const& paramName,
+        boost::weak_ptr<ThreadSafe const> const& owner,
+        boost::weak_ptr<ProjectEditRate const> const&) override
+    {
+        for (++numAsked; numAsked < 2;) {
+            std::this_thread::yield();
+        }
+        return boost::shared_ptr<ParameterInterface>(
+            new LeftParameter<std::string>(owner, paramName));
+    }
+
+    std::atomic<int> numAsked{0};
 };
 
 class FakeFile : public FileRepresentation
@@ -376,5 +398,20 @@ TEST_F(ScreenMetaDataTest, XmlEscapesNames)
 }
 
 }  // namespace
+TEST_F(ScreenMetaDataTest, ThreadsThatAskAtTheSameTimeBothLoadAndOneStays)
+{
+    MeetingLoader meeting;
+    ScreenMetaData::setLazyLoader(&meeting);
+    data->setCursorLocation("/cursor");
+    boost::shared_ptr<ParameterInterface> theirs;
+    OtherThread other([&] { theirs = data->cursorLocation(); });
+    boost::shared_ptr<ParameterInterface> const mine = data->cursorLocation();
+    other.join();
+    EXPECT_NE(mine, theirs);
+    boost::shared_ptr<ParameterInterface> const kept = data->cursorLocation();
+    EXPECT_TRUE(kept == mine || kept == theirs);
+    EXPECT_EQ(2, meeting.numAsked);
+}
+
 }  // namespace test
 }  // namespace tarn

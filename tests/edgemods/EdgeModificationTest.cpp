@@ -94,7 +94,9 @@ TEST_F(EdgeModificationTest, WithoutAKeyFrameThereIsNoValue)
 
 TEST_F(EdgeModificationTest, WithoutAParameterThereIsNoValue)
 {
-    EXPECT_THROW(EdgeModification().execute(0.5, 5), TarnMediaLibException);
+    EXPECT_STREQ(
+        "trying to execute an edge mod without a parameter",
+        thrownBy<TarnMediaLibException>([] { EdgeModification().execute(0.5, 5); }).what());
 }
 
 }  // namespace

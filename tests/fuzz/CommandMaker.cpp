@@ -240,8 +240,20 @@ MadeCommand CommandMaker::make()
     case Op::MoveKeyframes:
         makeKeyFrames();
         break;
+    case Op::TypedKeyFrame:
+        makeTypedKeyFrame();
+        break;
+    case Op::SetInterpolater:
+        makeSetInterpolater();
+        break;
+    case Op::Marker:
+        makeMarker();
+        break;
     case Op::Pair:
         makePair();
+        break;
+    case Op::NullArgument:
+        makeNullArgument();
         break;
     case Op::Null:
         set(NullCmd::create(), "NullCmd::create()");

@@ -85,6 +85,12 @@ private:
     void makeAddSource();
     void makeSources();
     void makeKeyFrames();
+    void makeTypedKeyFrame();
+    template <class T>
+    void makeKeyFrameOf(std::string const& type);
+    void makeSetInterpolater();
+    void makeMarker();
+    void makeNullArgument();
     void makePair();
 
     /// Sets the command, and the code that makes it.

@@ -13,6 +13,7 @@
 #include "parameters/Attribute.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/KeyFrame.h"
+#include "parameters/LeftParameter.h"
 #include "parameters/MTVector.h"
 #include "parameters/Parameter.h"
 #include "timeline/AbstractVisualTrack.h"
@@ -88,35 +89,49 @@ void mix(std::uint64_t& sum, std::uint64_t value)
 }
 
 template <class T>
-void mixFrames(std::uint64_t& sum, ParameterInterface const& parameter, Parameter<T> const& typed)
+void mixFrames(std::uint64_t& sum, Parameter<T> const& parameter)
 {
     auto const times = parameter.keyframeTimes();
     mix(sum, times->size());
     for (long long time : *times) {
         mix(sum, bits(time));
-        mix(sum, bits(static_cast<double>(typed.keyframeAtTime(time)->value())));
+        mix(sum, valueBits(parameter.keyframeAtTime(time)->value()));
     }
+}
+
+/// Only what is blended has interpolaters.
+template <class T>
+void mixInterpolaters(std::uint64_t&, Parameter<T> const&)
+{}
+#define TARN_MIX(T)                                                                                \
+    void mixInterpolaters(std::uint64_t& sum, Parameter<T> const& parameter)                       \
+    {                                                                                              \
+        if (auto const interpolaters = parameter.interpolaterParam())                              \
+            mixFrames(sum, *interpolaters);                                                        \
+    }
+TARN_INTERPOLATING_TYPES(TARN_MIX)
+#undef TARN_MIX
+
+/// @return whether the parameter is of that type
+template <class T>
+bool mixIfOfType(std::uint64_t& sum, ParameterInterface const& parameter)
+{
+    auto const* const typed = dynamic_cast<Parameter<T> const*>(&parameter);
+    if (typed) {
+        mixFrames(sum, *typed);
+        mixInterpolaters(sum, *typed);
+    }
+    return typed;
 }
 
 void mixParameter(std::uint64_t& sum, ParameterInterface const& parameter)
 {
     mix(sum, bits(dynamic_cast<void const*>(&parameter)));
-    if (auto const* number = dynamic_cast<Parameter<double> const*>(&parameter)) {
-        mixFrames(sum, parameter, *number);
-        if (auto const interpolaters = number->interpolaterParam()) {
-            auto const times = interpolaters->keyframeTimes();
-            for (long long time : *times) {
-                mix(sum, bits(time));
-                mix(sum, bits(interpolaters->keyframeAtTime(time)->value().get()));
-            }
-        }
-    } else if (auto const* small = dynamic_cast<Parameter<float> const*>(&parameter)) {
-        mixFrames(sum, parameter, *small);
-    } else {
-        auto const times = parameter.keyframeTimes();
-        for (long long time : *times)
-            mix(sum, bits(time));
-    }
+    if (mixIfOfType<double>(sum, parameter))
+        return;
+#define TARN_MIX(T) mixIfOfType<T>(sum, parameter) ||
+    static_cast<void>(TARN_PARAMETER_TYPES(TARN_MIX) false);
+#undef TARN_MIX
 }
 
 template <class Owner>
@@ -169,6 +184,9 @@ public:
         writeMixer(Field::AudioMixer, stage.timeline()->audioMixer());
         for (int i = 0; i < Stage::k_poolSize; ++i)
             writeMedia(*stage.pool(i));
+        for (boost::shared_ptr<ParameterInterface> const& parameter : stage.typedParameters().all())
+            writeParameter(*parameter);
+        writeParameter(*stage.timeline()->markerParam());
         while (!m_offTimeline.empty()) {
             boost::shared_ptr<Track const> const track = *m_offTimeline.begin();
             m_offTimeline.erase(m_offTimeline.begin());
@@ -197,6 +215,13 @@ private:
     void write(Field field, void const* owner, std::uint64_t value)
     {
         m_words.push_back({field, owner, value});
+    }
+
+    void writeParameter(ParameterInterface const& parameter)
+    {
+        std::uint64_t sum = 0;
+        mixParameter(sum, parameter);
+        write(Field::Parameters, dynamic_cast<void const*>(&parameter), sum);
     }
 
     void writeMixer(Field field, boost::shared_ptr<Mixer const> const& mixer)
@@ -385,6 +410,17 @@ Fingerprint::Fingerprint(Stage const& stage)
     Writer writer(m_words);
     writer.writeTimeline(stage);
     writer.writeBins(stage);
+}
+
+std::uint64_t Fingerprint::number() const
+{
+    std::uint64_t sum = 0;
+    for (Word const& word : m_words) {
+        mix(sum, static_cast<std::uint64_t>(word.field));
+        mix(sum, bits(word.owner));
+        mix(sum, word.value);
+    }
+    return sum;
 }
 
 std::uint64_t Fingerprint::valueOf(Field field, void const* owner, std::uint64_t absent) const

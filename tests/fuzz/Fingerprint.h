@@ -81,6 +81,8 @@ public:
 
     bool operator==(Fingerprint const& other) const { return m_words == other.m_words; }
     bool operator!=(Fingerprint const& other) const { return !(*this == other); }
+    /// The same for equal ones, and hardly ever for others.
+    std::uint64_t number() const;
     std::vector<Difference> differences(Fingerprint const& after) const;
     /// The first such word's value.
     std::uint64_t valueOf(Field field, void const* owner, std::uint64_t absent) const;

@@ -28,8 +28,8 @@ int const k_weights[] = {
     20, 20, 10, 10, 16, 16, 6,                           // edges
     12, 2,  15, 2,  20, 20,                              // clippings
     25, 8,  4,  6,  2,  8,                               // sources
-    15, 12, 8,  10, 8,                                   // key frames
-    10, 2,  1,                                           // Pair .. NoCommand
+    15, 12, 8,  10, 8,  20, 8,  10,                      // key frames
+    10, 2,  1,  6,                                       // Pair .. NullArgument
     40, 30, 15, 8,  3,  6,  5,                           // history
 };
 static_assert(sizeof(k_weights) / sizeof(k_weights[0]) == static_cast<std::size_t>(Op::Count),

@@ -7,6 +7,7 @@
 #include "clipbin/SourceBin.h"
 #include "commands/AddLeftEdgeModCmd.h"
 #include "commands/AddMediaCmd.h"
+#include "commands/CloneAddMediasCmd.h"
 #include "commands/CommandHistory.h"
 #include "commands/CopySelectClippingCmd.h"
 #include "commands/LinkCmd.h"
@@ -123,6 +124,30 @@ TEST_F(KnownLimitsTest, AMediaWithoutLengthTakesTheEntry)
     EXPECT_EQ(pool(k_empty), at("V1", 0));
     project->undo();
     EXPECT_EQ(boost::shared_ptr<Media>(), at("V1", 0));
+}
+
+TEST_F(KnownLimitsTest, TwoClonesAtOneStartTakeOneEntryAndUndoFindsOneOnly)
+{
+    begin("V1: ..s / V2: aaa");
+    trimEnd("V1", 20, 10);
+    project->execute(MoveCmd::create(track("V1"), at("V1", 20), -20));
+    boost::shared_ptr<CloneAddMediasCmd> const clones = CloneAddMediasCmd::create(180);
+    clones->addMapping(track("V1"), at("V1", 0));
+    clones->addMapping(track("V1"), at("V2", 0));
+    // The one without length collides with nothing, and whichever comes second takes the entry.
+    project->execute(clones);
+    EXPECT_EQ(2u, track("V1")->medias().size());
+    EXPECT_THROW(project->undo(), ValueException<boost::shared_ptr<Media>>);
+}
+
+TEST_F(KnownLimitsTest, ALinkedMediaCanBeAddedApartFromItsGroup)
+{
+    begin("V1: aaa");
+    boost::shared_ptr<Media> const placed = at("V1", 0);
+    project->execute(LinkCmd::create(pool(0), placed));
+    add("V1", 0, 120);
+    EXPECT_TRUE(placed->isLinkedWith(pool(0)));
+    EXPECT_NE(placed->trackRange(), pool(0)->trackRange());
 }
 
 TEST_F(KnownLimitsTest, UndoOfAnEdgeMoveForgetsWhatHadNoRoom)

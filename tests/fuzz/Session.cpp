@@ -8,6 +8,7 @@
 #include "commands/CommandHistory.h"
 #include "exceptions/CollisionException.h"
 #include "exceptions/TarnMediaLibException.h"
+#include "project/ReadWriteMutex.h"
 #include "timeline/ImageMedia.h"
 #include "timeline/MediaImpl.h"
 
@@ -23,9 +24,19 @@ namespace {
 
 std::size_t const k_shownDifferences = 12;
 
+/// The undo limit of a long session.
+int const k_longLimit = 40;
+
 /// The stage outside a test.
 class FuzzStage : public Stage
 {
+public:
+    explicit FuzzStage(LockPolicy policy)
+    {
+        project = InternalProject::create(boost::rational<unsigned long>(30, 1), policy);
+    }
+
+private:
     void TestBody() override {}
 };
 
@@ -109,15 +120,32 @@ void Figures::add(Figures const& other)
         limits[limit.first] += limit.second;
 }
 
-Session::Session(Script const& script) : m_script(script), m_stage(new FuzzStage) {}
+Session::Session(Script const& script, LockPolicy policy)
+    : m_script(script), m_isPart(false), m_stage(new FuzzStage(policy))
+{}
+
+Session::Session(Script const& script, boost::shared_ptr<InternalProject> const& project)
+    : m_script(script), m_isPart(project), m_stage(new FuzzStage(LockPolicy::Counted))
+{
+    if (project)
+        m_stage->takeOver(project);
+}
 
 Session::~Session() = default;
 
-bool Session::run()
+void Session::begin()
 {
     m_stage->begin(m_script.strip);
+    if (m_isPart)
+        setLimit(k_longLimit);
     m_model = model();
     m_naive.copy(*m_stage);
+}
+
+bool Session::run()
+{
+    if (!m_model)
+        begin();
     try {
         for (Step const& step : m_script.steps)
             runStep(step);
@@ -301,10 +329,7 @@ void Session::runHistoryStep(Step const& step)
         m_combinesNext = true;
         break;
     case Op::UndoLimit:
-        m_limit = limits[step.numbers[0] % 6];
-        write("", "project->commandHistory()->setUndoLimit(" + std::to_string(m_limit) + ");");
-        project.commandHistory()->setUndoLimit(m_limit);
-        applyLimit();
+        setLimit(limits[m_isPart ? 2 + step.numbers[0] % 4 : step.numbers[0] % 6]);
         compare({step.op}, Phase::Executed, m_model, model());
         break;
     case Op::TakeSnapshot:
@@ -401,6 +426,18 @@ void Session::combineRecords()
         m_undo.back().op = Op::Pair;
 }
 
+void Session::setLimit(int limit)
+{
+    m_limit = limit;
+    write("", "project->commandHistory()->setUndoLimit(" + std::to_string(m_limit) + ");");
+    {
+        // The history has no lock of its own, and what it drops may be what others read.
+        ReadWriteMutex::ScopedWriteLock const lock(m_stage->project->mutex());
+        m_stage->project->commandHistory()->setUndoLimit(m_limit);
+    }
+    applyLimit();
+}
+
 void Session::applyLimit()
 {
     while (m_limit >= 0 && m_undo.size() > static_cast<std::size_t>(m_limit)) {
@@ -421,7 +458,10 @@ void Session::checkSizes()
 
 Session::State Session::model() const
 {
-    return State(new Fingerprint(*m_stage));
+    State const state(new Fingerprint(*m_stage));
+    if (m_listener)
+        m_listener(*state);
+    return state;
 }
 
 void Session::compare(std::set<Op> const& ops, Phase phase, State const& wanted, State const& found)

@@ -6,11 +6,14 @@
 #include "fuzz/NaiveModel.h"
 
 #include "commands/CommandHistoryState.h"
+#include "project/InternalProject.h"
+#include "project/LockPolicy.h"
 
 #include <boost/shared_ptr.hpp>
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -46,8 +49,20 @@ struct Figures
 class Session
 {
 public:
-    explicit Session(Script const& script);
+    using Listener = std::function<void(Fingerprint const&)>;
+
+    explicit Session(Script const& script, LockPolicy policy = LockPolicy::Counted);
+    /// With a project, the session is one part of a long one: it begins by emptying that project,
+    /// which never has more than some commands to undo.
+    Session(Script const& script, boost::shared_ptr<InternalProject> const& project);
     ~Session();
+
+    /// Is told each model that an edit leaves, on the thread of the session.
+    void setListener(Listener const& listener) { m_listener = listener; }
+    /// Makes the first model, for those who want to look at it before run() goes on.
+    void begin();
+    /// Where the session is run; other threads may look at it under a read lock once it has begun.
+    Stage const& stage() const { return *m_stage; }
 
     /// @return whether no fault was found
     bool run();
@@ -84,6 +99,7 @@ private:
     {
     };
 
+    void setLimit(int limit);
     void runStep(Step const& step);
     void runCommand(Step const& step);
     void checkRefused(Op op, std::string const& thrown, NaiveModel::Outcome predicted);
@@ -107,7 +123,9 @@ private:
     void write(std::string const& code, std::string const& ending);
 
     Script m_script;
+    bool m_isPart;
     std::unique_ptr<Stage> m_stage;
+    Listener m_listener;
     NaiveModel m_naive;
     Figures m_figures;
     State m_model;

@@ -7,6 +7,7 @@
 #include "clipbin/SourceBin.h"
 #include "commands/CommandHistory.h"
 #include "commands/LoadSourceCmd.h"
+#include "commands/RemoveMixerCmd.h"
 #include "datatypes/ScreenMetaData.h"
 #include "effects/Blur.h"
 #include "parameters/MTVector.h"
@@ -78,8 +79,32 @@ void Stage::begin(std::string const& strip)
     keep(new VMFile(three, lock(), m_foreign, 0));
     keep(new IMFile(0, 0, lock(), source('x'), 0));
     keep(new VMFile(Range<long long>(0, 20), lock(), source('k'), 0));
+    m_typed = std::make_unique<TypedParameters>(*this);
     project->commandHistory()->setUndoLimit(0);
     project->commandHistory()->setUndoLimit(-1);
+}
+
+void Stage::takeOver(boost::shared_ptr<InternalProject> const& other)
+{
+    empty(*other);
+    project = other;
+}
+
+void Stage::empty(InternalProject& used)
+{
+    CommandHistory& history = *used.commandHistory();
+    history.dropRedoCommands();
+    history.setUndoLimit(0);
+    if (used.timeline()->hasVisualMixer())
+        used.execute(RemoveMixerCmd<VisualMixer>::create());
+    if (used.timeline()->hasAudioMixer())
+        used.execute(RemoveMixerCmd<AudioMixer>::create());
+    for (boost::shared_ptr<Clipping> const& clipping : used.clipBoard()->clippings())
+        used.clipBoard()->removeClipping(clipping);
+    SourceBin& bin = *used.sourceBin();
+    while (bin.begin() != bin.end())
+        bin.removeSource(boost::shared_ptr<Source const>(*bin.begin()));
+    history.setUndoLimit(-1);
 }
 
 boost::shared_ptr<Media> Stage::at(std::string const& trackName, long long start) const

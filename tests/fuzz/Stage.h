@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fuzz/TypedParameters.h"
 #include "support/ModelTest.h"
 
 #include "clipbin/ClipBinFwd.h"
@@ -10,6 +11,8 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -27,6 +30,8 @@ public:
     /// In the pool: of a source not in the bin, and without any length.
     static int const k_foreign = 11;
     static int const k_empty = 12;
+    /// A still picture.
+    static int const k_still = 4;
 
     using ModelTest::lock;
     using ModelTest::project;
@@ -36,6 +41,10 @@ public:
     using ModelTest::track;
 
     void begin(std::string const& strip);
+    /// Takes that project, emptied, instead of a new one. To be called before begin().
+    void takeOver(boost::shared_ptr<InternalProject> const& other);
+    /// Without mixers, sources, clippings and history, as a new project is.
+    static void empty(InternalProject& used);
 
     boost::shared_ptr<Media> const& pool(int index) const { return m_pool.at(index); }
     /// The media that starts at that time, edit units; empty when none does.
@@ -48,6 +57,18 @@ public:
     /// The media's number parameters, by their order; empty when it has fewer.
     boost::shared_ptr<Parameter<double> const> numberOf(boost::shared_ptr<Media const> const& media,
                                                         int index) const;
+    /// The host's own parameter of that type.
+    template <class T>
+    boost::shared_ptr<Parameter<T> const> typed() const
+    {
+        return m_typed->of<T>();
+    }
+    TypedParameters const& typedParameters() const { return *m_typed; }
+    template <class T>
+    T value(std::uint32_t number) const
+    {
+        return someValue<T>(*this, number);
+    }
     boost::shared_ptr<Effect> blur() const;
     boost::shared_ptr<ScreenMetaData const> metaData() const;
     /// Maps a track of what is pasted, by its place, to a track of the timeline.
@@ -61,6 +82,7 @@ public:
 private:
     std::vector<boost::shared_ptr<Media>> m_pool;
     boost::shared_ptr<Source> m_foreign;
+    std::unique_ptr<TypedParameters> m_typed;
 };
 
 }  // namespace test

@@ -70,9 +70,13 @@ enum class Op : std::uint32_t
     RemoveKeyFrame,
     MoveKeyFrame,
     MoveKeyframes,
+    TypedKeyFrame,  ///< of any type of parameter
+    SetInterpolater,
+    Marker,
     Pair,
     Null,
     NoCommand,
+    NullArgument,  ///< an empty pointer for one of a command's objects
     // What follows edits the history.
     Undo,
     Redo,

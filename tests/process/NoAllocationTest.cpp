@@ -2,8 +2,14 @@
 
 #include "support/FakeProject.h"
 
+#include "datatypes/GraphicsUtil.h"
+#include "edgemods/EdgeModification.h"
+#include "edgemods/FadeInFunc.h"
 #include "parameters/InterpolatingParam.h"
+#include "parameters/VectorParam.h"
 #include "project/ReadWriteMutex.h"
+#include "timeline/VMFile.h"
+#include "timeline/VisualMixer.h"
 #include "timeline/VisualTrack.h"
 
 #include <gtest/gtest.h>
@@ -97,6 +103,66 @@ TEST(NoAllocationTest, AValueOfAFloatParameter)
     EXPECT_EQ(0, allocationsOf([&] { EXPECT_EQ(2.5f, parameter->valueAtTime(25)); }));
 }
 
+/// What a renderer asks at every frame, of pictures that it has not met before.
+class FramesQuestions : public ::testing::Test
+{
+protected:
+    FramesQuestions()
+        : mixer(new VisualMixer(640, 480, project->weak()))
+        , track(new VisualTrack(project->weak()))
+        , media(new VMFile(Range<long long>(0, 100), project->weak(), Rect<float>(0, 0, 64, 48),
+                           "video"))
+    {
+        track->addMedia(media, 0);
+    }
+
+    boost::shared_ptr<FakeProject> const project = FakeProject::create();
+    boost::shared_ptr<VisualMixer> const mixer;
+    boost::shared_ptr<VisualTrack> const track;
+    boost::shared_ptr<VMFile> const media;
+};
+
+TEST_F(FramesQuestions, TheMediaUnderATime)
+{
+    Track const& seen = *track;
+    EXPECT_EQ(0, allocationsOf([&] { EXPECT_EQ(media, seen.mediaAtTime(5).second); }));
+}
+
+TEST_F(FramesQuestions, AllValuesOfAPictureNobodyAskedForItsParameters)
+{
+    double values[VisualMedia::k_numShownValues];
+    EXPECT_EQ(0, allocationsOf([&] { media->shownValuesAtTime(5, values); }));
+    EXPECT_EQ(1.0, values[8]);
+}
+
+TEST_F(FramesQuestions, TheMatrixAndTheCrops)
+{
+    EXPECT_EQ(0, allocationsOf([&] {
+                  EXPECT_EQ(TransformMatrix(),
+                            GraphicsUtil::calcModelMatrix(mixer, track, media, 5));
+                  EXPECT_EQ(64, media->sourceCropRectAtTime(5).width);
+                  EXPECT_EQ(48, media->geometryCropRectAtTime(5).height);
+              }));
+}
+
+TEST_F(FramesQuestions, AnAnimatedPictureWithAFade)
+{
+    boost::shared_ptr<InterpolatingParam<double>> const opacity = media->opacity();
+    boost::shared_ptr<InterpolatingParam<double>> const x = media->translation()->at(0);
+    x->addKeyFrame(10, 100.0);
+    media->setLeftEdgeModificationLength(20);
+    media->addLeftEdgeModification(EdgeModification(opacity, FadeInFunc()));
+    double values[VisualMedia::k_numShownValues];
+    EXPECT_EQ(0, allocationsOf([&] {
+                  media->shownValuesAtTime(5, values);
+                  EXPECT_EQ(0.25, values[8]);
+                  EXPECT_EQ(0.25, media->transformedDoubleParameterValueAtTime(opacity, 5));
+                  EXPECT_EQ(50.0, values[9]);
+                  EXPECT_EQ(TransformMatrix::translate(50, 0, 0),
+                            GraphicsUtil::calcModelMatrix(mixer, track, media, 5));
+              }));
+}
+
 TEST(NoAllocationTest, AReadLock)
 {
     auto const project = FakeProject::create();
@@ -107,6 +173,20 @@ TEST(NoAllocationTest, AReadLock)
 TEST(NoAllocationTest, AWriteLockWithLocksNestedInIt)
 {
     ReadWriteMutex mutex;
+    EXPECT_EQ(0, allocationsOf([&] {
+                  ReadWriteMutex::ScopedWriteLock const outer(mutex);
+                  ReadWriteMutex::ScopedWriteLock const inner(mutex);
+                  ReadWriteMutex::ScopedReadLock const read(mutex);
+              }));
+}
+
+TEST(NoAllocationTest, AStrictLockWithLocksNestedInIt)
+{
+    ReadWriteMutex mutex(LockPolicy::Strict);
+    EXPECT_EQ(0, allocationsOf([&] {
+                  ReadWriteMutex::ScopedReadLock const outer(mutex);
+                  ReadWriteMutex::ScopedReadLock const inner(mutex);
+              }));
     EXPECT_EQ(0, allocationsOf([&] {
                   ReadWriteMutex::ScopedWriteLock const outer(mutex);
                   ReadWriteMutex::ScopedWriteLock const inner(mutex);

@@ -72,6 +72,35 @@ TEST_F(InternalProjectParametersTest, RefusesAValueOfAnotherType)
     EXPECT_EQ("0=1", line(*opacity));
 }
 
+/// Of a type that the library does not have.
+class StrangeParameter : public ParameterInterface
+{
+public:
+    StrangeParameter* clone() const override { return new StrangeParameter(*this); }
+    std::string ident() const override { return "strange"; }
+    Range<long long> keyframeRange() const override { throw KeyFrameException(0); }
+    void moveKeyframes(long long) override {}
+    int numKeyFrames() const override { return 0; }
+    boost::shared_ptr<std::vector<long long>> keyframeTimes() const override { return nullptr; }
+    void moveKeyFrame(long long, long long) override {}
+    long long previousKeyFrameTime(long long time) const override { return time; }
+    long long nextKeyFrameTime(long long time) const override { return time; }
+    void receiveDispatcher(ParameterDispatcher*) override {}
+    void receiveDispatcher(ConstParameterDispatcher*) const override {}
+    void setupSharedClone(boost::shared_ptr<ParameterInterface> const&) const override {}
+    bool valuesDifferAtTimes(long long, long long) const override { return false; }
+    void xmlName(XMLable::Options&) const override {}
+    void xmlAttributes(XMLable::Options&) const override {}
+    void xmlBody(XMLable::Options&, int) const override {}
+};
+
+TEST_F(InternalProjectParametersTest, RefusesAParameterOfAStrangeType)
+{
+    boost::shared_ptr<ParameterInterface> const strange(new StrangeParameter);
+    EXPECT_EQ("parameter of an unknown type",
+              typeFailureOf([&] { handler().addParameterKeyFrame(strange, frame); }));
+}
+
 TEST_F(InternalProjectParametersTest, RefusesAnAttributesValueOfAnotherType)
 {
     boost::shared_ptr<Attribute<double>> const number(new Attribute<double>(1.5, lock()));

@@ -208,7 +208,18 @@ TEST_F(InternalProjectTest, ACloneHasTheEditRateButNoBinNoClipboardAndNoLock)
     EXPECT_EQ(project->editRate(), clone->editRate());
     EXPECT_FALSE(clone->sourceBin());
     EXPECT_FALSE(clone->clipBoard());
-    EXPECT_THROW(clone->mutex(), TarnMediaLibException);
+    EXPECT_STREQ("a cloned project has no lock",
+                 thrownBy<TarnMediaLibException>([&] { clone->mutex(); }).what());
+}
+
+TEST_F(InternalProjectTest, AClonesPrimitivesMissItsBinAndItsClipboard)
+{
+    boost::shared_ptr<InternalProject> const clone = cloned();
+    CommandHandler& handler = *clone;
+    EXPECT_STREQ("a cloned project has no source bin",
+                 thrownBy<TarnMediaLibException>([&] { handler.loadSource("fake:a"); }).what());
+    EXPECT_STREQ("a cloned project has no clipboard",
+                 thrownBy<TarnMediaLibException>([&] { handler.addClipping(nullptr); }).what());
 }
 
 TEST_F(InternalProjectTest, AClonePrintsItsTimelineWithoutABin)

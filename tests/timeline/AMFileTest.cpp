@@ -150,7 +150,8 @@ TEST_F(AMFileTest, AMergeOfOneIsACopy)
 
 TEST_F(AMFileTest, AMergeOfNothingIsRefused)
 {
-    EXPECT_THROW(merged({}), TarnMediaLibException);
+    EXPECT_EQ("trying to merge amfiles where there are none", refusal([&] { merged({}); }));
+    EXPECT_EQ("trying to merge amfiles where there are none", refusal([&] { merged({nullptr}); }));
 }
 
 TEST_F(AMFileTest, AMergeOfDifferentSourcesIsRefused)

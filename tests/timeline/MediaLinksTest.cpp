@@ -312,6 +312,24 @@ TEST_F(DeadLinkTest, StopsTheXml)
     EXPECT_STREQ("", thrownBy<DeadLink>([&] { xmlOf(*a); }).what());
 }
 
+// ---- a kind of a host's own ----
+
+/// Says that it is linked with everything.
+class Braggart : public Clip
+{
+public:
+    using Clip::Clip;
+
+    bool isLinkedWith(boost::shared_ptr<Media const> const&) const override { return true; }
+};
+
+TEST_F(MediaLinksTest, ALinkThatIsOnlyClaimedCannotBeRemoved)
+{
+    boost::shared_ptr<Braggart> const braggart(
+        new Braggart(Range<long long>(0, 100), 0, 1000, project->weak()));
+    EXPECT_EQ("unable to remove linked media list", refusal([&] { braggart->removeLink(a); }));
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

@@ -310,6 +310,7 @@ TEST_F(TrackEditingTest, APartnerOfAnotherTrackRangeStopsAMoveWithLinks)
     track("A1")->trimEnd(media("A1.a"), 5, false);
     auto const thrown =
         thrownBy<LinkException>([&] { track("V1")->move(media("V1.a"), 30, true); });
+    EXPECT_STREQ("Linked medias have different track ranges", thrown.what());
     EXPECT_EQ(Range<long long>(0, 20), thrown.first());
     EXPECT_EQ(Range<long long>(0, 15), thrown.second());
     EXPECT_EQ(Range<long long>(0, 20), range("V1.a"));

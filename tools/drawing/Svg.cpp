@@ -1,26 +1,38 @@
-#include "Svg.h"
+#include "drawing/Svg.h"
+
+#include "drawing/Utf8.h"
 
 #include <fstream>
 
+namespace tarn::drawing {
+
 namespace {
+
+std::string escaped(char letter)
+{
+    switch (letter) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    default:
+        // XML has no control characters, not even escaped ones.
+        return static_cast<unsigned char>(letter) < 0x20 ? " " : std::string(1, letter);
+    }
+}
 
 std::string escaped(std::string const& words)
 {
     std::string text;
-    for (char letter : words) {
-        switch (letter) {
-        case '&':
-            text += "&amp;";
-            break;
-        case '<':
-            text += "&lt;";
-            break;
-        case '>':
-            text += "&gt;";
-            break;
-        default:
-            text += letter;
-        }
+    for (std::size_t i = 0; i < words.size();) {
+        std::size_t const length = characterLength(words, i);
+        if (length == 0)
+            text += k_replacement;
+        else
+            text += length == 1 ? escaped(words[i]) : words.substr(i, length);
+        i += length == 0 ? 1 : length;
     }
     return text;
 }
@@ -64,9 +76,17 @@ void Svg::text(double x, double y, std::string const& words, std::string const& 
            << escaped(words) << "</text>\n";
 }
 
+void Svg::writeTo(std::ostream& out) const
+{
+    out << m_body.str() << "</svg>\n";
+}
+
 bool Svg::writeTo(std::string const& path) const
 {
     std::ofstream file(path);
-    file << m_body.str() << "</svg>\n";
+    writeTo(file);
+    file.close();
     return static_cast<bool>(file);
 }
+
+}  // namespace tarn::drawing

@@ -3,6 +3,8 @@
 #include <sstream>
 #include <string>
 
+namespace tarn::drawing {
+
 /// An SVG picture that is written shape by shape.
 class Svg
 {
@@ -16,9 +18,12 @@ public:
     void circle(double x, double y, double radius, std::string const& style);
     void text(double x, double y, std::string const& words, std::string const& style);
 
+    void writeTo(std::ostream& out) const;
     /// @returns whether the file could be written
     bool writeTo(std::string const& path) const;
 
 private:
     std::ostringstream m_body;
 };
+
+}  // namespace tarn::drawing

@@ -1,10 +1,12 @@
-#include "TimelinePicture.h"
+#include "drawing/TimelinePicture.h"
 
-#include "Svg.h"
+#include "drawing/Svg.h"
 
 #include <TarnMediaLib/edgemods/EdgeModFunc.h>
 #include <TarnMediaLib/edgemods/EdgeModification.h>
 #include <TarnMediaLib/effects/Effect.h>
+#include <TarnMediaLib/parameters/KeyFrame.h>
+#include <TarnMediaLib/parameters/LeftParameter.h>
 #include <TarnMediaLib/parameters/MTVector.h>
 #include <TarnMediaLib/parameters/ParameterInterface.h>
 #include <TarnMediaLib/timeline/AbstractVisualTrack.h>
@@ -13,9 +15,12 @@
 #include <TarnMediaLib/timeline/Media.h>
 #include <TarnMediaLib/timeline/VisualMixer.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <vector>
+
+namespace tarn::drawing {
 
 namespace {
 
@@ -28,17 +33,17 @@ double const k_width = 1100;
 struct Row
 {
     std::string name;
-    boost::shared_ptr<tarn::Track const> track;
+    boost::shared_ptr<Track const> track;
 };
 
-std::vector<Row> rowsOf(tarn::Timeline const& timeline)
+std::vector<Row> rowsOf(Timeline const& timeline)
 {
     std::vector<Row> rows;
     // The last visual track is the front of the picture, and so stands on top.
-    if (boost::shared_ptr<tarn::VisualMixer const> const mixer = timeline.visualMixer())
+    if (boost::shared_ptr<VisualMixer const> const mixer = timeline.visualMixer())
         for (unsigned i = static_cast<unsigned>(mixer->numTracks()); i-- > 0;)
             rows.push_back({"V" + std::to_string(i + 1), mixer->trackAtIndex(i)});
-    if (boost::shared_ptr<tarn::AudioMixer const> const mixer = timeline.audioMixer())
+    if (boost::shared_ptr<AudioMixer const> const mixer = timeline.audioMixer())
         for (unsigned i = 0; i < static_cast<unsigned>(mixer->numTracks()); ++i)
             rows.push_back({"A" + std::to_string(i + 1), mixer->trackAtIndex(i)});
     return rows;
@@ -47,21 +52,25 @@ std::vector<Row> rowsOf(tarn::Timeline const& timeline)
 class Drawing
 {
 public:
-    Drawing(tarn::Timeline const& timeline, std::vector<Row> const& rows)
+    Drawing(Timeline const& timeline, std::vector<Row> const& rows, Label const& label)
         : m_rows(rows)
-        , m_scale((k_width - k_left - 30) / std::max<double>(1, double(timeline.endTime())))
+        , m_label(label)
+        , m_start(std::min<long long>(0, timeline.startTime()))
+        , m_scale((k_width - k_left - 30) /
+                  std::max<double>(1, double(timeline.endTime() - m_start)))
         , m_svg(k_width, k_top + k_rowHeight * double(rows.size()) + 30, "#1e2127")
     {
         drawRuler(timeline.endTime());
+        drawMarkers(*timeline.markerParam());
         for (std::size_t i = 0; i < rows.size(); ++i)
             drawRow(rows[i], k_top + k_rowHeight * double(i));
         drawLinks();
     }
 
-    bool writeTo(std::string const& path) const { return m_svg.writeTo(path); }
+    Svg const& svg() const { return m_svg; }
 
 private:
-    double x(long long time) const { return k_left + double(time) * m_scale; }
+    double x(long long time) const { return k_left + double(time - m_start) * m_scale; }
 
     void drawRuler(long long end)
     {
@@ -74,6 +83,18 @@ private:
         }
     }
 
+    void drawMarkers(LeftParameter<std::string> const& markers)
+    {
+        auto const times = markers.keyframeTimes();
+        for (long long time : *times) {
+            m_svg.polygon(point(x(time), k_top - 8) + point(x(time) - 5, k_top - 16) +
+                              point(x(time) + 5, k_top - 16),
+                          "fill:#ffd166");
+            m_svg.text(x(time) + 8, k_top - 26, markers.keyframeAtTime(time)->value(),
+                       "fill:#ffd166;font-size:10px");
+        }
+    }
+
     void drawRow(Row const& row, double top)
     {
         m_svg.text(16, top + 26, row.name, "fill:#c8cdd6;font-weight:bold");
@@ -81,23 +102,23 @@ private:
             drawMedia(*entry->second, row.name[0] == 'V', top);
     }
 
-    void drawMedia(tarn::Media const& media, bool visual, double top)
+    void drawMedia(Media const& media, bool visual, double top)
     {
-        tarn::Range<long long> const range = media.trackRange();
+        Range<long long> const range = media.trackRange();
         double const width = double(range.duration) * m_scale;
         m_places[&media] = {x(range.start) + width / 2, top + k_boxHeight / 2};
         m_svg.rect(x(range.start), top, width, k_boxHeight,
                    std::string("stroke:#0d0f12;fill:") + (visual ? "#3b6ea8" : "#3f8f5f"), 4);
         drawEdges(media, top);
         drawKeyFrames(media, top);
-        std::string words = media.description();
+        std::string words = m_label(media);
         for (int i = 0; i < media.numEffects(); ++i)
             words += " + " + media.effectAtIndex(i)->name();
         if (width > 40)
             m_svg.text(x(range.start) + 5, top + 14, words, "fill:white;font-size:10px");
     }
 
-    void drawEdges(tarn::Media const& media, double top)
+    void drawEdges(Media const& media, double top)
     {
         std::string const style = "fill:#ffffff;fill-opacity:0.25";
         double const left = x(media.startTime());
@@ -114,7 +135,7 @@ private:
         }
     }
 
-    void drawKeyFrames(tarn::Media const& media, double top)
+    void drawKeyFrames(Media const& media, double top)
     {
         std::set<long long> times;
         {
@@ -145,7 +166,7 @@ private:
                 drawLinksOf(*entry->second);
     }
 
-    void drawLinksOf(tarn::Media const& media)
+    void drawLinksOf(Media const& media)
     {
         for (auto link = media.linkBegin(); link != media.linkEnd(); ++link) {
             auto const other = m_places.find(link->lock().get());
@@ -163,14 +184,29 @@ private:
     }
 
     std::vector<Row> m_rows;
+    Label m_label;
+    long long m_start;  ///< what stands at the left: 0, or what lies before it
     double m_scale;
     Svg m_svg;
-    std::map<tarn::Media const*, std::pair<double, double>> m_places;
+    std::map<Media const*, std::pair<double, double>> m_places;
 };
 
 }  // namespace
 
-bool drawTimeline(tarn::Timeline const& timeline, std::string const& path)
+void drawTimeline(Timeline const& timeline, Label const& label, std::ostream& out)
 {
-    return Drawing(timeline, rowsOf(timeline)).writeTo(path);
+    Drawing(timeline, rowsOf(timeline), label).svg().writeTo(out);
 }
+
+bool drawTimeline(Timeline const& timeline, Label const& label, std::string const& path)
+{
+    return Drawing(timeline, rowsOf(timeline), label).svg().writeTo(path);
+}
+
+bool drawTimeline(Timeline const& timeline, std::string const& path)
+{
+    return drawTimeline(
+        timeline, [](Media const& media) { return media.description(); }, path);
+}
+
+}  // namespace tarn::drawing

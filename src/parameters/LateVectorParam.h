@@ -1,0 +1,52 @@
+#pragma once
+
+#include "datatypes/LateObject.h"
+#include "datatypes/XMLable.h"
+#include "parameters/ParametersFwd.h"
+#include "project/SubProject.h"
+
+namespace tarn {
+
+/// A vector parameter whose dimensions have one key frame each, at time 0, that is made on first
+/// use. Until then its values are known and its XML is the same.
+template <int Count>
+class TARN_API LateVectorParam
+{
+public:
+    /// The name is a literal.
+    LateVectorParam(char const* name, double initial);
+    /// A copy of one that is as it was made is not made. The caller holds the read lock.
+    LateVectorParam(LateVectorParam const& other);
+    LateVectorParam& operator=(LateVectorParam const& other) = delete;
+
+    boost::shared_ptr<VectorParam> const& get(SubProject const& owner) const;
+
+    /// @name What `owner` shows at a local time
+    /// Among `values` the dimensions stand from `first` on; `wanted` has a bit for each value.
+    /// @{
+
+    /// Stores what no time changes, and takes its bits out of `wanted`. Makes nothing. The caller
+    /// holds the read lock.
+    void storeConstants(Parametric const& owner, unsigned int& wanted, int first,
+                        double* values) const;
+    /// Stores the wanted rest. Takes locks of its own and may call host code.
+    void storeOthers(Parametric const& owner, SubProject const& project, double time,
+                     unsigned int wanted, int first, double* values) const;
+    /// @}
+
+    /// Labelled with its name.
+    void toXML(XMLable::Options& options, int indent) const;
+
+private:
+    using Late = LateObject<VectorParam, 2 + 4 * Count>;
+
+    char const* m_name;
+    double m_initial;
+    Late m_param;
+};
+
+extern template class TARN_API LateVectorParam<2>;
+extern template class TARN_API LateVectorParam<3>;
+extern template class TARN_API LateVectorParam<4>;
+
+}  // namespace tarn
