@@ -103,7 +103,7 @@ void FaultStage::bringTo(Phase phase)
 
 bool FaultStage::beginAgain()
 {
-    if (m_operation.leavesClipping)
+    if (m_operation.leavesClipping || m_operation.dropsCommands)
         return false;
     if (m_phase == Undo) {
         // What a composite could not undo, it has lost. Another command can still be undone by who
