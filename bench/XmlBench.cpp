@@ -6,12 +6,37 @@
 #include "project/Project.h"
 #include "timeline/Track.h"
 
+#include <ostream>
 #include <sstream>
+#include <streambuf>
 #include <string>
 
 namespace tarn {
 namespace bench {
 namespace {
+
+/// Appends to a string, as the limit does, so that both pay the same for their memory: a string
+/// stream grows otherwise, and gives its text away as a copy.
+class StringSink : public std::streambuf
+{
+public:
+    std::string const& text() const { return m_text; }
+
+protected:
+    int_type overflow(int_type c) override
+    {
+        m_text += traits_type::to_char_type(c);
+        return c;
+    }
+    std::streamsize xsputn(char const* text, std::streamsize length) override
+    {
+        m_text.append(text, static_cast<std::size_t>(length));
+        return length;
+    }
+
+private:
+    std::string m_text;
+};
 
 std::string xmlOf(BenchProject const& project)
 {
@@ -30,13 +55,28 @@ void xmlOfProject(benchmark::State& state)
     BenchProject project;
     project.placePictures(project.pictures(), state.range(0), BenchProject::k_length);
     std::size_t bytes = 0;
+    for (auto _ : state) {
+        StringSink sink;
+        std::ostream out(&sink);
+        project.project()->toXML(out);
+        bytes = sink.text().size();
+    }
+    countKilobytes(state, bytes);
+}
+
+/// The same into a string stream, and the text out of it.
+void xmlInStringStream(benchmark::State& state)
+{
+    BenchProject project;
+    project.placePictures(project.pictures(), state.range(0), BenchProject::k_length);
+    std::size_t bytes = 0;
     for (auto _ : state)
         bytes = xmlOf(project).size();
     countKilobytes(state, bytes);
 }
 
 /// The same text, appended in pieces as short as the writers' own.
-void xmlOfProject_limit(benchmark::State& state)
+void appendPieces(benchmark::State& state)
 {
     BenchProject project;
     project.placePictures(project.pictures(), state.range(0), BenchProject::k_length);
@@ -51,8 +91,20 @@ void xmlOfProject_limit(benchmark::State& state)
     countKilobytes(state, text.size());
 }
 
+void xmlOfProject_limit(benchmark::State& state)
+{
+    appendPieces(state);
+}
+
+void xmlInStringStream_limit(benchmark::State& state)
+{
+    appendPieces(state);
+}
+
 BENCHMARK(xmlOfProject)->RangeMultiplier(10)->Range(100, 10000);
 BENCHMARK(xmlOfProject_limit)->RangeMultiplier(10)->Range(100, 10000);
+BENCHMARK(xmlInStringStream)->RangeMultiplier(10)->Range(100, 10000);
+BENCHMARK(xmlInStringStream_limit)->RangeMultiplier(10)->Range(100, 10000);
 
 }  // namespace
 }  // namespace bench

@@ -40,7 +40,7 @@
 #include "commands/CommandHistoryState.h"
 #include "commands/CommandObserver.h"
 #include "commands/CommandPair.h"
-#include "commands/CommandStack.h"
+#include "commands/CommandSequence.h"
 #include "commands/CommandsFwd.h"
 #include "commands/CopyRangeClippingCmd.h"
 #include "commands/CopySelectClippingCmd.h"

@@ -14,29 +14,48 @@ namespace tarn {
 
 namespace {
 
-CommandStack cloned(CommandStack const& commands)
+template <class Iterator>
+void writeCommands(XMLable::Options& options, int indent, Iterator begin, Iterator end)
 {
-    CommandStack clones;
-    for (boost::shared_ptr<Command> const& command : commands) {
-        clones.push(boost::shared_ptr<Command>(command->clone()));
-    }
-    return clones;
-}
-
-void writeCommands(XMLable::Options& options, int indent, CommandStack const& commands)
-{
-    for (boost::shared_ptr<Command> const& command : commands) {
-        command->toXML(options, indent, "");
+    for (Iterator command = begin; command != end; ++command) {
+        (*command)->toXML(options, indent, "");
     }
 }
 
-void writeStack(XMLable::Options& options, int indent, char const* name,
-                CommandStack const& commands)
+template <class Iterator>
+void writeStack(XMLable::Options& options, int indent, char const* name, Iterator begin,
+                Iterator end)
 {
     std::ostream& out = *options.stream;
     out << XMLable::genIndent(indent) << "<" << name << ">\n";
-    writeCommands(options, indent + 1, commands);
+    writeCommands(options, indent + 1, begin, end);
     out << XMLable::genIndent(indent) << "</" << name << ">\n";
+}
+
+/// What can be redone as hosts see it: the next to redo is the last.
+std::reverse_iterator<CommandSequence::Iterator> redoListBegin(CommandSequence const& commands)
+{
+    return std::make_reverse_iterator(commands.redoEnd());
+}
+
+std::reverse_iterator<CommandSequence::Iterator> redoListEnd(CommandSequence const& commands)
+{
+    return std::make_reverse_iterator(commands.redoBegin());
+}
+
+void cloneInto(CommandSequence& clones, CommandSequence const& originals)
+{
+    for (auto it = originals.undoBegin(); it != originals.undoEnd(); ++it) {
+        clones.makeRoom();
+        clones.pushUndo(boost::shared_ptr<Command>((*it)->clone()));
+    }
+    CommandSequence::Commands redo;
+    for (auto it = redoListBegin(originals); it != redoListEnd(originals); ++it) {
+        redo.push_back(boost::shared_ptr<Command>((*it)->clone()));
+    }
+    CommandSequence::Commands none;
+    clones.makeRoomForRedo(redo.size());
+    clones.replaceRedo(redo, none);
 }
 
 }  // namespace
@@ -72,11 +91,11 @@ CommandHistory::CommandHistory(CommandHistory const& other)
     , Subject(other)
     , XMLable(other)
     , m_handler(nullptr)
-    , m_undoCommands(cloned(other.m_undoCommands))
-    , m_redoCommands(cloned(other.m_redoCommands))
     , m_undoLimit(other.m_undoLimit)
     , m_isRunning(false)
-{}
+{
+    cloneInto(m_commands, other.m_commands);
+}
 
 CommandHistory::~CommandHistory() = default;
 
@@ -97,18 +116,18 @@ bool CommandHistory::execute(boost::shared_ptr<Command> const& command)
     if (!command) {
         throw TarnMediaLibException("no command to execute");
     }
-    // Taken before the command runs, so that nothing can fail between its work and its record.
-    CommandStack::Room const room(m_undoCommands);
-    // A share of its own: the caller may lose his meanwhile.
+    // A share of its own, as the caller may lose his meanwhile; and room for it, so that nothing
+    // can fail between the command's work and its record.
     boost::shared_ptr<Command> executed = command;
+    m_commands.makeRoom();
     {
         Run const run(*this);
         if (!executed->execute(m_handler)) {
             return false;
         }
     }
-    m_undoCommands.push(std::move(executed));
-    m_redoCommands.clear();
+    m_commands.pushUndo(std::move(executed));
+    m_commands.clearRedo();
     removeExcessCommands();
     notify();
     return true;
@@ -116,44 +135,44 @@ bool CommandHistory::execute(boost::shared_ptr<Command> const& command)
 
 void CommandHistory::undo()
 {
+    boost::shared_ptr<Command> newest;
     {
         Run const run(*this);
-        if (m_undoCommands.empty()) {
+        if (m_commands.numUndo() == 0) {
             throw TarnMediaLibException("no commands to undo");
         }
-        CommandStack::Room const room(m_redoCommands);
-        boost::shared_ptr<Command> newest = m_undoCommands.takeBack();
+        newest = m_commands.takeUndo();
         newest->unexecute(m_handler);
-        m_redoCommands.push(std::move(newest));
     }
+    m_commands.pushRedo(std::move(newest));
     notify();
 }
 
 void CommandHistory::redo()
 {
+    boost::shared_ptr<Command> newest;
     {
         Run const run(*this);
-        if (m_redoCommands.empty()) {
+        if (m_commands.numRedo() == 0) {
             throw TarnMediaLibException("no commands to redo");
         }
-        CommandStack::Room const room(m_undoCommands);
-        boost::shared_ptr<Command> newest = m_redoCommands.takeBack();
+        newest = m_commands.takeRedo();
         newest->reexecute(m_handler);
-        m_undoCommands.push(std::move(newest));
     }
+    m_commands.pushUndo(std::move(newest));
     notify();
 }
 
 void CommandHistory::undoAll()
 {
-    while (!m_undoCommands.empty()) {
+    while (m_commands.numUndo() > 0) {
         undo();
     }
 }
 
 void CommandHistory::redoAll()
 {
-    while (!m_redoCommands.empty()) {
+    while (m_commands.numRedo() > 0) {
         redo();
     }
 }
@@ -161,84 +180,81 @@ void CommandHistory::redoAll()
 void CommandHistory::dropRedoCommands()
 {
     Run const run(*this);
-    m_redoCommands.clear();
+    m_commands.clearRedo();
 }
 
 void CommandHistory::combineLastCommands()
 {
     Run const run(*this);
-    if (m_undoCommands.size() < 2) {
+    if (m_commands.numUndo() < 2) {
         return;
     }
-    CommandStack::Commands::const_iterator const second = std::prev(m_undoCommands.end());
+    CommandSequence::Iterator const second = std::prev(m_commands.undoEnd());
     boost::shared_ptr<Command> const combined = (*std::prev(second))->combine(*second);
     if (!combined) {
         throw TarnMediaLibException("no command from combining");
     }
-    m_undoCommands.replaceNewestTwo(combined);
+    m_commands.replaceNewestTwo(combined);
 }
 
 CommandHistoryState CommandHistory::state() const
 {
     return CommandHistoryState(
         getCurrentUndoStackTop(),
-        CommandHistoryState::CommandList(m_redoCommands.begin(), m_redoCommands.end()));
+        CommandHistoryState::CommandList(redoListBegin(m_commands), redoListEnd(m_commands)));
 }
 
 boost::shared_ptr<Command const> CommandHistory::getCurrentUndoStackTop() const
 {
-    return m_undoCommands.empty() ? boost::shared_ptr<Command const>() : m_undoCommands.back();
+    return m_commands.numUndo() == 0 ? boost::shared_ptr<Command const>()
+                                     : *std::prev(m_commands.undoEnd());
 }
 
 void CommandHistory::restoreState(CommandHistoryState const& state)
 {
-    // Made before anything is undone, so that nothing can fail behind that.
-    CommandStack redoCommands;
-    redoCommands.assign(state.redoCommands().begin(), state.redoCommands().end());
+    // Room is made before anything is undone, so that nothing can fail behind that.
+    CommandSequence::Commands const redo(state.redoCommands().begin(), state.redoCommands().end());
+    CommandSequence::Commands old;
+    old.reserve(m_commands.numRedo());
+    m_commands.makeRoomForRedo(redo.size());
     {
         Run const run(*this);
-        // Kept so: entries of the redo list are unexecuted too, not run again, when the top is
-        // there.
-        if (!unrollStack(m_undoCommands, state.undoTop(), m_handler) &&
-            !unrollStack(m_redoCommands, state.undoTop(), m_handler)) {
+        if (!unrollTo(state.undoTop())) {
             std::cerr << description() << std::endl;
             throw ValueException<CommandHistoryState>(
                 "State cannot be restored, cannot find undo top", state);
         }
-        m_redoCommands.swap(redoCommands);
+        m_commands.replaceRedo(redo, old);
     }
     notify();
 }
 
-bool CommandHistory::unrollStack(CommandStack& commands,
-                                 boost::shared_ptr<Command const> const& top,
-                                 CommandHandler* handler)
+bool CommandHistory::canBeUndone(boost::shared_ptr<Command const> const& command) const
 {
-    if (!top) {
-        unrollEverything(commands, handler);
+    return std::find(m_commands.undoBegin(), m_commands.undoEnd(), command) != m_commands.undoEnd();
+}
+
+bool CommandHistory::canBeRedone(boost::shared_ptr<Command const> const& command) const
+{
+    return std::find(m_commands.redoBegin(), m_commands.redoEnd(), command) != m_commands.redoEnd();
+}
+
+bool CommandHistory::unrollTo(boost::shared_ptr<Command const> const& top)
+{
+    if (!top || canBeUndone(top)) {
+        while (m_commands.numUndo() > 0 && getCurrentUndoStackTop() != top) {
+            m_commands.takeUndo()->unexecute(m_handler);
+        }
         return true;
     }
-    if (std::find(commands.begin(), commands.end(), top) == commands.end()) {
+    if (!canBeRedone(top)) {
         return false;
     }
-    unrollPortion(commands, top, handler);
+    // Kept so: entries of the redo list are unexecuted too, not run again, when the top is there.
+    while (*m_commands.redoBegin() != top) {
+        m_commands.takeRedo()->unexecute(m_handler);
+    }
     return true;
-}
-
-void CommandHistory::unrollEverything(CommandStack& commands, CommandHandler* handler)
-{
-    while (!commands.empty()) {
-        commands.takeBack()->unexecute(handler);
-    }
-}
-
-void CommandHistory::unrollPortion(CommandStack& commands,
-                                   boost::shared_ptr<Command const> const& top,
-                                   CommandHandler* handler)
-{
-    while (commands.back() != top) {
-        commands.takeBack()->unexecute(handler);
-    }
 }
 
 void CommandHistory::setUndoLimit(int limit)
@@ -256,8 +272,8 @@ void CommandHistory::removeExcessCommands()
     if (m_undoLimit < 0) {
         return;
     }
-    while (m_undoCommands.size() > static_cast<std::size_t>(m_undoLimit)) {
-        m_undoCommands.dropFront();
+    while (m_commands.numUndo() > static_cast<std::size_t>(m_undoLimit)) {
+        m_commands.dropOldest();
     }
 }
 
@@ -270,13 +286,13 @@ void CommandHistory::xmlAttributes(XMLable::Options&) const {}
 
 void CommandHistory::xmlBody(XMLable::Options& options, int indent) const
 {
-    writeStack(options, indent, "UndoStack", m_undoCommands);
-    writeStack(options, indent, "RedoStack", m_redoCommands);
+    writeStack(options, indent, "UndoStack", m_commands.undoBegin(), m_commands.undoEnd());
+    writeStack(options, indent, "RedoStack", redoListBegin(m_commands), redoListEnd(m_commands));
 }
 
 void CommandHistory::xmlOfUndoCommands(XMLable::Options& options, int indent) const
 {
-    writeCommands(options, indent, m_undoCommands);
+    writeCommands(options, indent, m_commands.undoBegin(), m_commands.undoEnd());
 }
 
 }  // namespace tarn

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "commands/CommandHistoryState.h"
-#include "commands/CommandStack.h"
+#include "commands/CommandSequence.h"
 #include "commands/CommandsFwd.h"
 #include "datatypes/Cloneable.h"
 #include "datatypes/Export.h"
@@ -75,9 +75,9 @@ public:
     void setUndoLimit(int limit);
 
     /// How many steps undo() can take.
-    std::size_t numUndoCommands() const { return m_undoCommands.size(); }
+    std::size_t numUndoCommands() const { return m_commands.numUndo(); }
     /// How many steps redo() can take.
-    std::size_t numRedoCommands() const { return m_redoCommands.size(); }
+    std::size_t numRedoCommands() const { return m_commands.numRedo(); }
 
     void xmlName(XMLable::Options& options) const override;
     void xmlAttributes(XMLable::Options& options) const override;
@@ -93,16 +93,13 @@ private:
 
     boost::shared_ptr<Command const> getCurrentUndoStackTop() const;
     void removeExcessCommands();
-    /// @return false when the list does not hold `top`; nothing has changed then
-    static bool unrollStack(CommandStack& commands, boost::shared_ptr<Command const> const& top,
-                            CommandHandler* handler);
-    static void unrollEverything(CommandStack& commands, CommandHandler* handler);
-    static void unrollPortion(CommandStack& commands, boost::shared_ptr<Command const> const& top,
-                              CommandHandler* handler);
+    bool canBeUndone(boost::shared_ptr<Command const> const& command) const;
+    bool canBeRedone(boost::shared_ptr<Command const> const& command) const;
+    /// @return false when neither list holds `top`; nothing has changed then
+    bool unrollTo(boost::shared_ptr<Command const> const& top);
 
     CommandHandler* m_handler;
-    CommandStack m_undoCommands;
-    CommandStack m_redoCommands;
+    CommandSequence m_commands;
     int m_undoLimit;
     bool m_isRunning;
 };

@@ -47,7 +47,7 @@ public:
     bool isClassic() const { return m_isClassic; }
     bool hasFailed() const { return m_hasFailed; }
 
-    void append(char const* text, std::size_t length)
+    [[gnu::always_inline]] void append(char const* text, std::size_t length)
     {
         if (length > room()) {
             appendLong(text, length);
@@ -56,14 +56,15 @@ public:
         std::memcpy(pptr(), text, length);
         advance(length);
     }
-    void append(std::size_t count, char c)
+    void appendBlanks(std::size_t count)
     {
-        while (count > 0) {
-            std::size_t const length = count < k_size ? count : k_size;
-            std::memset(place(length), c, length);
-            advance(length);
-            count -= length;
-        }
+        static constexpr char k_blanks[] = "                                ";
+        std::size_t const step = sizeof k_blanks - 1;
+        for (; count > step; count -= step)
+            append(k_blanks, step);
+        // All of them are copied, which is less work than to copy the right number.
+        std::memcpy(place(step), k_blanks, step);
+        advance(count);
     }
 
     /// Where the next `length` characters may be written, at most k_size. advance() says how many

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <string_view>
 
 namespace tarn {
 
@@ -19,10 +20,15 @@ bool looksWhole(double value)
 
 }  // namespace
 
-template <class T>
-XmlText& XmlText::writeWhole(T value)
+void XmlPieces::writeByStream(char const* text, std::size_t length)
 {
-    if (isShort()) {
+    m_out << std::string_view(text, length);
+}
+
+template <class T>
+XmlPieces& XmlPieces::writeWhole(T value)
+{
+    if (m_buffer) {
         char* const place = m_buffer->place(k_numberLength);
         char* const end = std::to_chars(place, place + k_numberLength, value).ptr;
         m_buffer->advance(static_cast<std::size_t>(end - place));
@@ -32,39 +38,39 @@ XmlText& XmlText::writeWhole(T value)
     return *this;
 }
 
-XmlText& XmlText::operator<<(int value)
+XmlPieces& XmlPieces::operator<<(int value)
 {
     return writeWhole(value);
 }
 
-XmlText& XmlText::operator<<(unsigned int value)
+XmlPieces& XmlPieces::operator<<(unsigned int value)
 {
     return writeWhole(value);
 }
 
-XmlText& XmlText::operator<<(long value)
+XmlPieces& XmlPieces::operator<<(long value)
 {
     return writeWhole(value);
 }
 
-XmlText& XmlText::operator<<(unsigned long value)
+XmlPieces& XmlPieces::operator<<(unsigned long value)
 {
     return writeWhole(value);
 }
 
-XmlText& XmlText::operator<<(long long value)
+XmlPieces& XmlPieces::operator<<(long long value)
 {
     return writeWhole(value);
 }
 
-XmlText& XmlText::operator<<(unsigned long long value)
+XmlPieces& XmlPieces::operator<<(unsigned long long value)
 {
     return writeWhole(value);
 }
 
-XmlText& XmlText::operator<<(double value)
+XmlPieces& XmlPieces::operator<<(double value)
 {
-    if (!isShort()) {
+    if (!m_buffer) {
         m_out << value;
         return *this;
     }
@@ -77,7 +83,7 @@ XmlText& XmlText::operator<<(double value)
     return *this;
 }
 
-XmlText& XmlText::operator<<(float value)
+XmlPieces& XmlPieces::operator<<(float value)
 {
     return *this << static_cast<double>(value);
 }

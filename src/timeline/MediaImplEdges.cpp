@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <ostream>
 #include <utility>
 
 namespace tarn {
