@@ -36,6 +36,7 @@ public:
 
     /// Sees to it that the next pushUndo() does not fail. @throws std::bad_alloc
     void makeRoom();
+    /// The newest to undo from now on.
     void pushUndo(boost::shared_ptr<Command> command);
     /// What has come out by takeUndo() or takeRedo().
     void pushRedo(boost::shared_ptr<Command> command)
@@ -47,6 +48,7 @@ public:
     /// The next to redo.
     boost::shared_ptr<Command> takeRedo() { return std::move(m_entries[m_redoBegin++]); }
 
+    /// Drops what would be undone last, without undoing it; there must be one.
     void dropOldest();
     /// Puts one in the place of the two newest that can be undone.
     void replaceNewestTwo(boost::shared_ptr<Command> const& command);
