@@ -33,14 +33,24 @@ bool MultiCommand::execute(CommandHandler* handler)
 bool MultiCommand::unexecute(CommandHandler* handler)
 {
     m_history->setCommandHandler(handler);
-    m_history->undoAll();
+    try {
+        m_history->undoAll();
+    } catch (...) {
+        m_history->redoAll();
+        throw;
+    }
     return true;
 }
 
 bool MultiCommand::reexecute(CommandHandler* handler)
 {
     m_history->setCommandHandler(handler);
-    m_history->redoAll();
+    try {
+        m_history->redoAll();
+    } catch (...) {
+        m_history->undoAll();
+        throw;
+    }
     return true;
 }
 

@@ -12,10 +12,10 @@ namespace tarn {
 /// One step made of many. A subclass's executeCommands() only runs other commands, by execute();
 /// they are undone newest first, and redone in their first order without being computed anew.
 ///
-/// When anything is thrown, what has run is taken back and the exception passes on; should that
-/// fail, its exception takes the first one's place, and the model stays as it is between the two
-/// steps where the taking back ended: so it may be when memory runs out and stays out. An undo or
-/// redo that throws ends between two steps likewise. Execute an object once: it keeps what it ran.
+/// When anything is thrown, what has run is taken back and the exception passes on; so it is with
+/// an undo and a redo. Should the taking back fail, its exception takes the first one's place, and
+/// the model stays as it is between the two steps where that ended: so it may be when memory runs
+/// out and stays out. Execute an object once: it keeps what it ran.
 class TARN_API MultiCommand : public Command
 {
 public:

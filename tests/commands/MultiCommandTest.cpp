@@ -129,6 +129,25 @@ TEST_F(MultiCommandTest, AFailureInTakingBackReplacesTheFirstOne)
     EXPECT_THROW(m_composite.execute(m_handler), std::runtime_error);
 }
 
+TEST_F(MultiCommandTest, AnUndoThatFailsIsTakenBack)
+{
+    m_composite.execute(m_handler);
+    m_log.clear();
+    m_b->onUnexecute = [] { throw TarnMediaLibException("cannot go back"); };
+    EXPECT_THROW(m_composite.unexecute(m_handler), TarnMediaLibException);
+    EXPECT_EQ("-c -b *c ", m_log);
+}
+
+TEST_F(MultiCommandTest, ARedoThatFailsIsTakenBack)
+{
+    m_composite.execute(m_handler);
+    m_composite.unexecute(m_handler);
+    m_log.clear();
+    m_c->onReexecute = [] { throw 7; };
+    EXPECT_THROW(m_composite.reexecute(m_handler), int);
+    EXPECT_EQ("*a *b *c -b -a ", m_log);
+}
+
 TEST_F(MultiCommandTest, APartThatFindsNothingToDoIsNotUndone)
 {
     m_b->result = false;

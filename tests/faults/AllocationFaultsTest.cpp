@@ -10,6 +10,7 @@
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <iostream>
@@ -88,12 +89,12 @@ private:
         std::set<std::size_t> notified;
     };
 
-    /// How many allocations of a phase fail at most, evenly spread: all with TARN_ALL_FAULTS in the
-    /// environment.
+    /// How many allocations of a phase fail, evenly spread: about so many at most, or as many as
+    /// TARN_FAULTS in the environment says.
     static int maxRuns()
     {
-        if (std::getenv("TARN_ALL_FAULTS"))
-            return 1000000;
+        if (char const* const asked = std::getenv("TARN_FAULTS"))
+            return std::max(1, std::atoi(asked));
 #ifdef __SANITIZE_ADDRESS__
         return 4;
 #else
@@ -154,8 +155,11 @@ private:
         }
         if (!m_stage->isBetweenPrimitives())
             return "it stopped where it must not:\n" + difference;
-        for (Broken const& broken : brokenInvariants(*m_stage))
-            return broken.text;
+        // A group that is half linked is all that such a model may have wrong.
+        for (Broken const& broken : brokenInvariants(*m_stage)) {
+            if (broken.breach != Breach::NoMesh)
+                return broken.text;
+        }
         ++s_tally.stopped;
         return "";
     }

@@ -103,7 +103,7 @@ void FaultStage::bringTo(Phase phase)
 
 bool FaultStage::beginAgain()
 {
-    if (m_operation.leavesClipping)
+    if (m_operation.leavesClipping || m_operation.dropsCommands)
         return false;
     if (m_phase == Undo) {
         // What a composite could not undo, it has lost. Another command can still be undone by who
@@ -173,11 +173,10 @@ FaultStage::Outcome FaultStage::actWithFault(int k, AllocationFault::Lasting las
         m_callsBefore.push_back(observer.calls());
     m_betweenPrimitives.clear();
     std::unique_ptr<WatchingHandler> watch;
-    // An undo that breaks down stops where it is; so does the taking back of a composite, when
-    // there is no memory for that either.
-    bool const mayStop = m_operation.kind == Operation::Pair ||
-                         (m_operation.kind == Operation::Composite &&
-                          (m_phase != Execute || lasting == AllocationFault::ForEver));
+    // What is to be taken back stays when there is no memory for that either.
+    bool const mayStop =
+        m_operation.kind == Operation::Pair ||
+        (m_operation.kind == Operation::Composite && lasting == AllocationFault::ForEver);
     if (mayStop) {
         watch.reset(new WatchingHandler(*project, [this](auto const&, auto const&) {
             AllocationFault::Pause const pause;

@@ -22,7 +22,7 @@ struct Operation
     enum Kind
     {
         Atomic,     ///< one primitive; fails as a whole
-        Composite,  ///< several, so that an undo may stop between two of them
+        Composite,  ///< several; when they cannot be taken back either, it stops between two
         Pair        ///< as a composite; and what was done first stays when the second has no memory
     };
 
