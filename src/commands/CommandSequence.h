@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/CommandsFwd.h"
+#include "datatypes/Export.h"
 
 #include <boost/shared_ptr.hpp>
 
@@ -13,7 +14,7 @@ namespace tarn {
 /// The commands of a history in one piece of memory, oldest first: those that can be undone, a gap,
 /// and those that can be redone. One that is undone or redone goes over the gap to the other side,
 /// and one that is lost on the way widens it, so that neither needs memory.
-class CommandSequence
+class TARN_API CommandSequence
 {
 public:
     using Commands = std::vector<boost::shared_ptr<Command>>;
@@ -35,6 +36,7 @@ public:
 
     /// Sees to it that the next pushUndo() does not fail. @throws std::bad_alloc
     void makeRoom();
+    /// The newest to undo from now on.
     void pushUndo(boost::shared_ptr<Command> command);
     /// What has come out by takeUndo() or takeRedo().
     void pushRedo(boost::shared_ptr<Command> command)
@@ -46,6 +48,7 @@ public:
     /// The next to redo.
     boost::shared_ptr<Command> takeRedo() { return std::move(m_entries[m_redoBegin++]); }
 
+    /// Drops what would be undone last, without undoing it; there must be one.
     void dropOldest();
     /// Puts one in the place of the two newest that can be undone.
     void replaceNewestTwo(boost::shared_ptr<Command> const& command);

@@ -29,6 +29,7 @@ public:
 
     /// The same for several at once, from front to back.
     void newIdents(unsigned int* idents, std::size_t count);
+    /// Gives back several at once, from front to back.
     void retireIdents(unsigned int const* idents, std::size_t count);
 
     std::string description() const override;

@@ -26,6 +26,7 @@ public:
 
     /// May be null, which no parameter matches.
     boost::shared_ptr<Parameter<double> const> parameter() const { return m_parameter; }
+    /// Whether it bends that very parameter.
     bool isFor(ParameterInterface const* parameter) const;
     EdgeModFunc const& func() const { return *m_func; }
     /// A share in it, for who runs it while the list it stands in may change.

@@ -25,7 +25,9 @@ public:
     bool empty() const { return size() == 0; }
     long long const* times() const { return m_several ? m_several->times.data() : &m_singleTime; }
     Frame const* frames() const { return m_several ? m_several->frames.data() : &m_single; }
+    /// At an index below size().
     long long time(std::size_t index) const { return times()[index]; }
+    /// At an index below size().
     Frame const& frame(std::size_t index) const { return frames()[index]; }
 
     /// The only one there is, or null.
@@ -35,10 +37,12 @@ public:
     void reserve(std::size_t count);
     /// Changes nothing when it throws.
     void insert(std::size_t index, long long time, Frame const& frame);
+    /// Takes out the frame at an index below size().
     void erase(std::size_t index);
     /// Puts a frame in the place of another.
     void replace(std::size_t index, Frame const& frame);
 
+    /// Exchanges everything; cannot fail.
     void swap(KeyFrames& other);
 
 private:

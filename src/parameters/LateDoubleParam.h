@@ -18,6 +18,7 @@ public:
     LateDoubleParam(LateDoubleParam const& other);
     LateDoubleParam& operator=(LateDoubleParam const& other) = delete;
 
+    /// The parameter, made now if nobody has asked before. `owner` is what it belongs to.
     boost::shared_ptr<InterpolatingParam<double>> const& get(SubProject const& owner) const;
 
     /// @name What `owner` shows at a local time; see LateVectorParam

@@ -19,6 +19,7 @@ public:
     LateVectorParam(LateVectorParam const& other);
     LateVectorParam& operator=(LateVectorParam const& other) = delete;
 
+    /// The parameter, made now if nobody has asked before. `owner` is what it belongs to.
     boost::shared_ptr<VectorParam> const& get(SubProject const& owner) const;
 
     /// @name What `owner` shows at a local time

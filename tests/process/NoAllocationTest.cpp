@@ -2,6 +2,8 @@
 
 #include "support/FakeProject.h"
 
+#include "commands/CommandHistory.h"
+#include "commands/NullCmd.h"
 #include "datatypes/GraphicsUtil.h"
 #include "edgemods/EdgeModification.h"
 #include "edgemods/FadeInFunc.h"
@@ -191,6 +193,18 @@ TEST(NoAllocationTest, AStrictLockWithLocksNestedInIt)
                   ReadWriteMutex::ScopedWriteLock const outer(mutex);
                   ReadWriteMutex::ScopedWriteLock const inner(mutex);
                   ReadWriteMutex::ScopedReadLock const read(mutex);
+              }));
+}
+
+TEST(NoAllocationTest, AHistoryThatUndoesAndRedoes)
+{
+    CommandHistory history(nullptr);
+    for (int i = 0; i < 100; ++i) {
+        history.execute(NullCmd::create());
+    }
+    EXPECT_EQ(0, allocationsOf([&] {
+                  history.undoAll();
+                  history.redoAll();
               }));
 }
 

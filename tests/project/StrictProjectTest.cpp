@@ -54,8 +54,8 @@ TEST_F(StrictProjectTest, TheHostChoosesTheLock)
 
 TEST_F(StrictProjectTest, EditsAsWithTheDefaultLock)
 {
-    given("V1: aaa...bb / A1: aaa");
-    EXPECT_TRUE(edits(move("V1.a", +3), "V1: ...aaabb / A1: ...aaa"));
+    given("A1: aaa / V1: aaa...bb");
+    EXPECT_TRUE(edits(move("V1.a", +3), "A1: ...aaa / V1: ...aaabb"));
 }
 
 TEST_F(StrictProjectTest, AnEditUnderAConstIteratorIsRefusedAndChangesNothing)
@@ -81,7 +81,7 @@ TEST_F(StrictProjectTest, HistoryStepsUnderAResultThatReadsAreRefusedAndChangeNo
     project->undo();
     CommandHistoryState const state = project->commandState();
     {
-        auto const medias = timeline()->allMedias();
+        auto const parameters = media("V1.a")->parameterVector();
         EXPECT_THROW(project->undo(), ThreadLockingException);
         EXPECT_THROW(project->redo(), ThreadLockingException);
         EXPECT_THROW(project->combineLastCommands(), ThreadLockingException);
@@ -98,7 +98,7 @@ TEST_F(StrictProjectTest, ARefusedEditKeepsTheWishToCombine)
     project->execute(move("V1.a", +1));
     project->combineNextCommand();
     {
-        auto const medias = timeline()->allMedias();
+        auto const parameters = media("V1.a")->parameterVector();
         EXPECT_THROW(project->execute(move("V1.a", +1)), ThreadLockingException);
     }
     project->execute(move("V1.a", +1));
@@ -122,7 +122,7 @@ TEST_F(StrictProjectTest, ACloneReadsByTheLockOfTheProjectItCameFrom)
     given("V1: aaa");
     std::unique_ptr<InternalProject> const copy(project->clone());
     EXPECT_EQ(&project->mutex(), &copy->timeline()->mutex());
-    auto const medias = copy->timeline()->allMedias();
+    auto const markers = copy->timeline()->parameterVector();
     EXPECT_THROW(project->undo(), ThreadLockingException);
 }
 

@@ -27,6 +27,34 @@
 namespace tarn {
 namespace test {
 
+namespace {
+
+/// A list that is let go of under the lock: it may turn out to be the last owner of what an edit
+/// has removed.
+template <class List>
+class Kept
+{
+public:
+    Kept(Stage const& stage, boost::shared_ptr<List> const& list)
+        : m_mutex(stage.project->mutex()), m_list(list)
+    {}
+    ~Kept()
+    {
+        ReadWriteMutex::ScopedReadLock const lock(m_mutex);
+        m_list.reset();
+    }
+    Kept(Kept const&) = delete;
+    Kept& operator=(Kept const&) = delete;
+
+    List const& list() const { return *m_list; }
+
+private:
+    ReadWriteMutex& m_mutex;
+    boost::shared_ptr<List> m_list;
+};
+
+}  // namespace
+
 void ModelReader::readUntil(std::atomic<bool> const& isOver)
 {
     while (!isOver) {
@@ -58,18 +86,32 @@ void ModelReader::readOnce()
 
 void ModelReader::evaluateParameters()
 {
-    auto const medias = m_stage.project->timeline()->allMedias();
-    for (boost::shared_ptr<Media const> const& media : *medias) {
-        double const time = media->mediaRange().start + m_turn % 50;
+    // Queries that lock for themselves, on medias that an edit may remove meanwhile.
+    Kept<ConstMediaList> const medias(m_stage, m_stage.project->timeline()->allMedias());
+    for (boost::shared_ptr<Media const> const& media : medias.list()) {
+        double const time = startOf(*media) + m_turn % 50;
         evaluate(*media, time);
-        for (int i = 0; i < media->numEffects(); ++i) {
-            if (auto const effect = media->effectAtIndex(i)) {
-                evaluate(*effect, time);
-            }
-        }
-        if (auto const visual = boost::dynamic_pointer_cast<VisualMedia const>(media)) {
+        evaluateEffects(*media, time);
+        if (auto const* visual = dynamic_cast<VisualMedia const*>(media.get())) {
             visual->transformAtTime(m_turn % 50);
             visual->geometryCropRectAtTime(m_turn % 50);
+        }
+    }
+}
+
+double ModelReader::startOf(Media const& media) const
+{
+    // The range is a reference into the media.
+    ReadWriteMutex::ScopedReadLock const lock(m_stage.project->mutex());
+    return media.mediaRange().start;
+}
+
+void ModelReader::evaluateEffects(Media const& media, double time)
+{
+    ReadWriteMutex::ScopedReadLock const lock(m_stage.project->mutex());
+    for (int i = 0; i < media.numEffects(); ++i) {
+        if (auto const effect = media.effectAtIndex(i)) {
+            evaluate(*effect, time);
         }
     }
 }
@@ -94,8 +136,6 @@ void ModelReader::evaluate(Parametric const& owner, double time)
 
 void ModelReader::iterateMedias()
 {
-    // What is taken out of the model is let go of under the lock, here and below: a reader may turn
-    // out to be the last owner of a mixer that an edit has removed.
     ReadWriteMutex::ScopedReadLock const lock(m_stage.project->mutex());
     auto const iterate = [this](boost::shared_ptr<Mixer const> const& mixer) {
         if (!mixer) {
@@ -104,6 +144,7 @@ void ModelReader::iterateMedias()
         auto const end = mixer->trackEnd();
         for (auto track = mixer->trackBegin(); track != end; ++track) {
             Track const& lane = **track;
+            lane.identAttribute();
             long long last = lane.startTime();
             auto const mediaEnd = lane.mediaEnd();
             for (auto media = lane.mediaBegin(); media != mediaEnd; ++media) {
@@ -111,6 +152,8 @@ void ModelReader::iterateMedias()
                     m_judge.addFault("an iterator went back in time");
                 }
                 last = media->second->trackRange().start;
+                // Made when someone first asks, which may be several readers at once.
+                boost::shared_ptr<Media const>(media->second)->identAttribute();
                 ++m_figures.medias;
             }
         }

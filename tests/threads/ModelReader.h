@@ -47,6 +47,8 @@ public:
 private:
     void readOnce();
     void evaluateParameters();
+    double startOf(Media const& media) const;
+    void evaluateEffects(Media const& media, double time);
     void iterateMedias();
     void print();
     void hitTest();
