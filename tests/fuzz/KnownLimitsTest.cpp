@@ -125,6 +125,20 @@ TEST_F(KnownLimitsTest, AMediaWithoutLengthTakesTheEntry)
     EXPECT_EQ(boost::shared_ptr<Media>(), at("V1", 0));
 }
 
+TEST_F(KnownLimitsTest, WhatAMediaWithoutLengthHasReplacedCannotBeTakenOut)
+{
+    begin("V1: ");
+    add("V1", 0, 0);
+    add("V1", k_empty, 0);
+    project->undo();
+    try {
+        project->undo();
+        ADD_FAILURE() << "the media was found";
+    } catch (TarnMediaLibException const& refusal) {
+        EXPECT_STREQ("can't find media to remove", refusal.what());
+    }
+}
+
 TEST_F(KnownLimitsTest, ALinkedMediaCanBeAddedApartFromItsGroup)
 {
     begin("V1: aaa");
