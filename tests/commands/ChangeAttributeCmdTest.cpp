@@ -8,6 +8,8 @@
 #include "timeline/AudioMixer.h"
 #include "timeline/VisualMixer.h"
 
+#include <array>
+
 namespace tarn {
 namespace test {
 namespace {
@@ -23,16 +25,14 @@ protected:
 
     /// The values after execution, undo and redo.
     template <class T>
-    std::vector<T> valuesOfEdit(boost::shared_ptr<Attribute<T>> const& attribute, T const& value)
+    std::array<T, 3> valuesOfEdit(boost::shared_ptr<Attribute<T>> const& attribute, T const& value)
     {
-        std::vector<T> values;
         project->execute(ChangeAttributeCmd<T>::create(attribute, value));
-        values.push_back(attribute->value());
+        T const executed = attribute->value();
         project->undo();
-        values.push_back(attribute->value());
+        T const undone = attribute->value();
         project->redo();
-        values.push_back(attribute->value());
-        return values;
+        return {executed, undone, attribute->value()};
     }
 
     template <class T>
@@ -53,17 +53,17 @@ TEST_F(ChangeAttributeCmdTest, GivesTheAttributeAnotherValue)
 
 TEST_F(ChangeAttributeCmdTest, WorksForDoubles)
 {
-    EXPECT_EQ((std::vector<double>{2.5, 1.5, 2.5}), valuesOfEdit<double>(attribute(1.5), 2.5));
+    EXPECT_EQ((std::array<double, 3>{2.5, 1.5, 2.5}), valuesOfEdit<double>(attribute(1.5), 2.5));
 }
 
 TEST_F(ChangeAttributeCmdTest, WorksForUnsignedNumbers)
 {
-    EXPECT_EQ((std::vector<unsigned>{2, 1, 2}), valuesOfEdit<unsigned>(attribute(1u), 2u));
+    EXPECT_EQ((std::array<unsigned, 3>{2, 1, 2}), valuesOfEdit<unsigned>(attribute(1u), 2u));
 }
 
 TEST_F(ChangeAttributeCmdTest, WorksForTexts)
 {
-    EXPECT_EQ((std::vector<std::string>{"new", "old", "new"}),
+    EXPECT_EQ((std::array<std::string, 3>{"new", "old", "new"}),
               valuesOfEdit<std::string>(attribute(std::string("old")), "new"));
 }
 
@@ -71,14 +71,14 @@ TEST_F(ChangeAttributeCmdTest, WorksForPoints)
 {
     Point const from(1, 2, 3);
     Point const to(4, 5, 6);
-    EXPECT_EQ((std::vector<Point>{to, from, to}), valuesOfEdit<Point>(attribute(from), to));
+    EXPECT_EQ((std::array<Point, 3>{to, from, to}), valuesOfEdit<Point>(attribute(from), to));
 }
 
 TEST_F(ChangeAttributeCmdTest, WorksForRectangles)
 {
     Rect<float> const from(1, 2, 3, 4);
     Rect<float> const to(5, 6, 7, 8);
-    EXPECT_EQ((std::vector<Rect<float>>{to, from, to}),
+    EXPECT_EQ((std::array<Rect<float>, 3>{to, from, to}),
               valuesOfEdit<Rect<float>>(attribute(from), to));
 }
 
@@ -87,7 +87,8 @@ TEST_F(ChangeAttributeCmdTest, WorksForScreenMetaData)
     using Data = boost::shared_ptr<ScreenMetaData const>;
     Data const data(
         ScreenMetaData::create(lock(), boost::weak_ptr<ProjectEditRate const>(project)));
-    EXPECT_EQ((std::vector<Data>{data, Data(), data}), valuesOfEdit<Data>(attribute(Data()), data));
+    EXPECT_EQ((std::array<Data, 3>{data, Data(), data}),
+              valuesOfEdit<Data>(attribute(Data()), data));
 }
 
 TEST_F(ChangeAttributeCmdTest, TheSameValueIsAStepAsWell)
