@@ -60,7 +60,7 @@ struct NotifyDelay::Queue
     std::atomic<int> s_refCount{0};
 
 private:
-    static bool takeOut(Entry& entry, Observable const* observable);
+    static void takeOut(Entry& entry, Observable const* observable);
     void removeFromTold(Observable const* observable);
     bool mustBeToldStill(Entry const& entry) const;
     void dropFront();
@@ -176,14 +176,12 @@ bool NotifyDelay::Queue::tellNext(Told& told)
     return true;
 }
 
-bool NotifyDelay::Queue::takeOut(Entry& entry, Observable const* observable)
+void NotifyDelay::Queue::takeOut(Entry& entry, Observable const* observable)
 {
-    if (!entry.isOf(observable)) {
-        return false;
+    if (entry.isOf(observable)) {
+        entry.count(-1);
+        entry = Entry{nullptr, nullptr};
     }
-    entry.count(-1);
-    entry = Entry{nullptr, nullptr};
-    return true;
 }
 
 void NotifyDelay::Queue::removeFromTold(Observable const* observable)

@@ -317,5 +317,85 @@ TEST(NotifyDelayTest, ASubjectQueuedByItsBaseIsForgottenWhenItDies)
     EXPECT_EQ(0, observer.calls());
 }
 
+TEST(NotifyDelayTest, ADelayThatAnObserverLeavesOpenHoldsBackTheRest)
+{
+    Subject a;
+    Subject b;
+    std::unique_ptr<NotifyDelay> left;
+    CountingObserver ofA([&left] { left = std::make_unique<NotifyDelay>(); });
+    CountingObserver ofB;
+    a.attach(&ofA);
+    b.attach(&ofB);
+    notifyBothUnderADelay(a, b);
+    EXPECT_EQ(1, ofA.calls());
+    EXPECT_EQ(0, ofB.calls());
+    left.reset();
+    EXPECT_EQ(1, ofB.calls());
+}
+
+TEST(NotifyDelayTest, AnObserverMayDieAfterAWaitingSubjectHas)
+{
+    auto dying = std::make_unique<Subject>();
+    Subject staying;
+    auto observer = std::make_unique<CountingObserver>();
+    CountingObserver other;
+    staying.attach(observer.get());
+    staying.attach(&other);
+    {
+        NotifyDelay const delay;
+        dying->notify();
+        staying.notify();
+        dying.reset();
+        observer.reset();
+    }
+    EXPECT_EQ(1, other.calls());
+}
+
+TEST(NotifyDelayTest, AnObserverMayDieAfterTheSubjectThatIsToldOfHas)
+{
+    auto dying = std::make_unique<Subject>();
+    Subject staying;
+    int callsOfTheDead = 0;
+    auto observer = std::make_unique<CountingObserver>([&callsOfTheDead] { ++callsOfTheDead; });
+    CountingObserver other;
+    CountingObserver killer([&] {
+        dying.reset();
+        observer.reset();
+    });
+    dying->attach(&killer);
+    staying.attach(observer.get());
+    staying.attach(&other);
+    notifyBothUnderADelay(*dying, staying);
+    EXPECT_EQ(0, callsOfTheDead);
+    EXPECT_EQ(1, other.calls());
+}
+
+TEST(NotifyDelayTest, AnObserverThatDiesInADeliveryWithinADeliveryIsNotCalledByTheOuterOne)
+{
+    Subject outer;
+    Subject inner;
+    int callsOfTheDead = 0;
+    auto observer = std::make_unique<CountingObserver>([&callsOfTheDead] { ++callsOfTheDead; });
+    CountingObserver editing([&inner] {
+        NotifyDelay const delay;
+        inner.notify();
+    });
+    CountingObserver killer([&observer] { observer.reset(); });
+    outer.attach(&editing);
+    outer.attach(observer.get());
+    inner.attach(&killer);
+    {
+        NotifyDelay const delay;
+        outer.notify();
+    }
+    EXPECT_EQ(1, killer.calls());
+    EXPECT_EQ(0, callsOfTheDead);
+}
+
+TEST(NotifyDelayTest, DescribesItselfByNothing)
+{
+    EXPECT_EQ("", NotifyDelay().description());
+}
+
 }  // namespace test
 }  // namespace tarn

@@ -31,6 +31,16 @@ TEST(QuadTest, SetsOneCorner)
     EXPECT_NE(sample(), quad);
 }
 
+TEST(QuadTest, EveryCornerDecidesEquality)
+{
+    Quad changed[4] = {sample(), sample(), sample(), sample()};
+    for (int i = 0; i < 4; ++i) {
+        changed[i].setAt(i, Point(5, 6, 7));
+        EXPECT_NE(sample(), changed[i]);
+    }
+    EXPECT_EQ(sample(), sample());
+}
+
 TEST(QuadTest, FindsExtremesInAllCorners)
 {
     Quad const quad(Point(3, -1, 0), Point(0, 4, 0), Point(-2, 2, 0), Point(9, 8, 0));

@@ -101,6 +101,12 @@ TEST(RangeTest, ANegativeRangeNeverOverlaps)
     EXPECT_EQ(Times(0, 0), Times(-5, 20).intersection(Times(40, -35)));
 }
 
+TEST(RangeTest, WhichOfTheTwoIsEmptyDoesNotMatter)
+{
+    EXPECT_EQ(Times(5, 0), Times(5, 0).intersection(Times(0, 10)));
+    EXPECT_EQ(Times(0, 0), Times(40, -35).intersection(Times(-5, 20)));
+}
+
 TEST(RangeTest, IntersectsAtTheEndOf64Bits)
 {
     long long const k_max = std::numeric_limits<long long>::max();

@@ -167,6 +167,9 @@ TEST_F(ScreenMetaDataTest, ANameTakenBackMakesItInvalid)
     nameAll("/r/");
     data->setCursorAction("");
     EXPECT_FALSE(data->isValid());
+    nameAll("/r/");
+    data->setCursorLocation("");
+    EXPECT_FALSE(data->isValid());
 }
 
 TEST_F(ScreenMetaDataTest, NamesAreKeptAsGiven)

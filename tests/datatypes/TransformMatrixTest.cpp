@@ -162,6 +162,16 @@ TEST(TransformMatrixTest, SplitsIntoLowerAndUpper)
     EXPECT_EQ(matrix({2, 1, 0, 0, 0, 3, 1, 0, 0, 0, 2, 0, 0, 0, 0, 1}), upper);
 }
 
+TEST(TransformMatrixTest, AZeroOnTheDiagonalSplitsIntoWhatIsNotFinite)
+{
+    TransformMatrix lower;
+    TransformMatrix upper;
+    // Rows 0 and 1 swapped would do; as it is, row 1 would have to lose endlessly much of row 0.
+    matrix({0, 1, 0, 0, 1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}).luDecomposition(lower, upper);
+    EXPECT_FALSE(std::isfinite(lower.at(1, 0)));
+    EXPECT_FALSE(std::isfinite(upper.at(1, 1)));
+}
+
 TEST(TransformMatrixTest, SplitsIntoItself)
 {
     TransformMatrix lower = matrix({2, 1, 0, 0, 4, 5, 1, 0, 0, 6, 4, 0, 2, 1, 0, 1});

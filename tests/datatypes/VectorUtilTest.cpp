@@ -137,6 +137,14 @@ TEST(VectorUtilTest, OneCornerInsideIsEnoughForInsideOf)
     EXPECT_FALSE(VectorUtil::quadInsideOfQuad(Quad(Rect<double>(15, 5, 10, 10)), square()));
 }
 
+TEST(VectorUtilTest, AnyCornerWillDoForInsideOf)
+{
+    // The corners of a rectangle go (x, y), (x, y + h), (x + w, y + h), (x + w, y).
+    EXPECT_TRUE(VectorUtil::quadInsideOfQuad(Quad(Rect<double>(5, -5, 10, 10)), square()));
+    EXPECT_TRUE(VectorUtil::quadInsideOfQuad(Quad(Rect<double>(-5, -5, 10, 10)), square()));
+    EXPECT_TRUE(VectorUtil::quadInsideOfQuad(Quad(Rect<double>(-5, 5, 10, 10)), square()));
+}
+
 TEST(VectorUtilTest, AQuadAroundAnotherIsNotInsideOfIt)
 {
     EXPECT_FALSE(VectorUtil::quadInsideOfQuad(Quad(Rect<double>(-5, -5, 20, 20)), square()));

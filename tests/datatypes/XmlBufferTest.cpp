@@ -1,6 +1,7 @@
 #include "datatypes/XmlBuffer.h"
 
 #include "datatypes/XMLable.h"
+#include "datatypes/XmlText.h"
 
 #include <gtest/gtest.h>
 
@@ -188,10 +189,116 @@ TEST(XmlBufferTest, ABadStateSetInsideStays)
     EXPECT_EQ(std::ios_base::failbit, out.rdstate());
 }
 
+TEST(XmlBufferTest, ATextThatDoesNotFitBehindAnotherArrivesWhole)
+{
+    std::string const first(8000, 'a');
+    std::string const second(500, 'b');
+    Element const element(
+        [&](XMLable::Options& options) { *options.stream << first << second; });
+    EXPECT_EQ(element.opening() + first + second + "</E>\n", xmlOf(element));
+}
+
+TEST(XmlBufferTest, ASingleCharacterBehindAFullBufferArrives)
+{
+    Element const element([](XMLable::Options& options) {
+        for (int i = 0; i < 9000; ++i)
+            options.stream->put('a');
+    });
+    EXPECT_EQ(element.opening() + std::string(9000, 'a') + "</E>\n", xmlOf(element));
+}
+
+TEST(XmlBufferTest, ManyLevelsAreIndentedInFull)
+{
+    Element const element(
+        [](XMLable::Options& options) { XmlText(options).indent(100) << "|\n"; });
+    EXPECT_EQ(element.opening() + std::string(100, ' ') + "|\n</E>\n", xmlOf(element));
+}
+
+TEST(XmlBufferTest, AFullTargetIsFoundOutByAFlush)
+{
+    bool isBad = false;
+    Element const element([&isBad](XMLable::Options& options) {
+        *options.stream << std::flush;
+        isBad = options.stream->bad();
+    });
+    ShortTarget target(0, false);
+    std::ostream out(&target);
+    element.toXML(out);
+    EXPECT_TRUE(isBad);
+}
+
+TEST(XmlBufferTest, AFullTargetIsFoundOutByALongText)
+{
+    bool isBad = false;
+    Element const element([&isBad](XMLable::Options& options) {
+        *options.stream << std::string(10000, 'a');
+        isBad = options.stream->bad();
+    });
+    ShortTarget target(100, false);
+    std::ostream out(&target);
+    element.toXML(out);
+    EXPECT_TRUE(isBad);
+    EXPECT_EQ(100u, target.taken.size());
+}
+
+TEST(XmlBufferTest, AFullTargetIsFoundOutByTheCharacterBehindAFullBuffer)
+{
+    bool wasBad = true;
+    bool isBad = false;
+    Element const element([&](XMLable::Options& options) {
+        for (int i = 0; i < 8000; ++i)
+            options.stream->put('a');
+        wasBad = options.stream->bad();
+        for (int i = 0; i < 1000; ++i)
+            options.stream->put('a');
+        isBad = options.stream->bad();
+    });
+    ShortTarget target(0, false);
+    std::ostream out(&target);
+    element.toXML(out);
+    EXPECT_FALSE(wasBad);
+    EXPECT_TRUE(isBad);
+}
+
+TEST(XmlBufferTest, WhatAnElementThrowsPassesThoughTheStreamWasToldToThrowToo)
+{
+    Element const element([](XMLable::Options& options) {
+        options.stream->exceptions(std::ios_base::badbit);
+        throw std::runtime_error("class");
+    });
+    ShortTarget target(0, false);
+    std::ostream out(&target);
+    EXPECT_THROW(element.toXML(out), std::runtime_error);
+    EXPECT_TRUE(out.bad());
+}
+
+TEST(XmlBufferTest, AStreamWithoutABufferSwallowsAll)
+{
+    bool wasAsked = false;
+    Element const element([&wasAsked](XMLable::Options& options) {
+        wasAsked = true;
+        XmlText(options) << "body";
+    });
+    std::ostream out(nullptr);
+    EXPECT_NO_THROW(element.toXML(out));
+    EXPECT_TRUE(wasAsked);
+    EXPECT_EQ(std::ios_base::badbit, out.rdstate());
+}
+
 TEST(XmlBufferTest, NeverStandsBehindTheStreamsOfTheProcess)
 {
     EXPECT_FALSE(XmlBuffer::mayStandBehind(std::cout));
     EXPECT_FALSE(XmlBuffer::mayStandBehind(std::clog));
+}
+
+TEST(XmlBufferTest, NeverStandsBehindTheErrorStreamHoweverPlainItIs)
+{
+    std::ostream* const tied = std::cerr.tie(nullptr);
+    std::cerr << std::nounitbuf;
+    EXPECT_TRUE(XmlBuffer::isPlain(std::cerr));
+    EXPECT_FALSE(XmlBuffer::mayStandBehind(std::cerr));
+    std::cerr << std::unitbuf;
+    std::cerr.tie(tied);
 }
 
 }  // namespace test

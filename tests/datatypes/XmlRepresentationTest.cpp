@@ -59,6 +59,7 @@ TEST(XmlRepresentationTest, ThreeByteTextIsWrittenInTheLibrarysOwnCoding)
 TEST(XmlRepresentationTest, WhatFollowsAZeroByteIsLost)
 {
     EXPECT_EQ("a&lt;", xml_representation(std::string("a<\0b", 4)));
+    EXPECT_EQ("a", xml_representation(std::string("a\0b", 3)));
 }
 
 TEST(XmlRepresentationTest, ConstAndMutableTextsAreTreatedAlike)

@@ -222,6 +222,17 @@ TEST_F(InternalProjectTest, AClonesPrimitivesMissItsBinAndItsClipboard)
                  thrownBy<TarnMediaLibException>([&] { handler.addClipping(nullptr); }).what());
 }
 
+TEST_F(InternalProjectTest, ACloneKnowsNoSourceThatAMediaCouldBelongTo)
+{
+    given("V1: a");
+    boost::shared_ptr<InternalProject> const clone = cloned();
+    boost::shared_ptr<Track> const copied = clone->timeline()->visualMixer()->trackAtIndex(0);
+    boost::shared_ptr<Media> const fresh = freshVideo('a', 2);
+    EXPECT_EQ("attempting to add a media whose source doesn't belong to the project",
+              refusal([&] { clone->addMedia(copied, fresh, 50); }));
+    EXPECT_EQ(1u, copied->numMedias());
+}
+
 TEST_F(InternalProjectTest, AClonePrintsItsTimelineWithoutABin)
 {
     EXPECT_EQ("<Project id=\"#\" editRate=\"30/1\" version=\"1.0\" >\n"
