@@ -188,11 +188,10 @@ T ParameterImpl<T>::valueBetween(std::size_t right, double time) const
     long long const* const times = m_frames.times();
     FramePointer const* const frames = m_frames.frames();
     std::size_t const count = m_frames.size();
-    // Times that a double cannot tell apart may lead to either end.
+    // A time that a double cannot tell from the last may lead past the end; not before the first,
+    // as rounding keeps the order.
     if (right == count)
         return frames[count - 1]->value();
-    if (right == 0)
-        return frames[0]->value();
 
     std::size_t const left = right - 1;
     T const& leftValue = frames[left]->value();

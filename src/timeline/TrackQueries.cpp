@@ -92,9 +92,7 @@ Pair<boost::shared_ptr<M>> mediaAround(Track::MediaMap const& medias, long long 
                        : Medias(none, entry->second);
     }
     if (time == end) {
-        Track::MediaMap::const_iterator const next = std::next(entry);
-        bool const touches = next != medias.end() && next->second->placedRange().start == time;
-        return touches ? Medias(entry->second, next->second) : Medias(entry->second, none);
+        return Medias(entry->second, none);  // whatever began here would be the entry itself
     }
     return Medias(none, none);
 }

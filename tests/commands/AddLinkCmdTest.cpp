@@ -76,6 +76,14 @@ TEST_F(AddLinkCmdTest, NamesBothMediasInXml)
               xmlOf(*addLink("A1.a", "V1.b")));
 }
 
+TEST_F(AddLinkCmdTest, ACloneLinksTheSameWay)
+{
+    given("A1: aaa / V1: bbb");
+    EXPECT_TRUE(edits(boost::shared_ptr<Command>(addLink("A1.a", "V1.b")->clone())));
+    EXPECT_TRUE(media("A1.a")->isLinkedWith(media("V1.b")));
+    EXPECT_FALSE(media("V1.b")->isLinkedWith(media("A1.a")));
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

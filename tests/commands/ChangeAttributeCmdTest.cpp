@@ -1,6 +1,7 @@
 #include "commands/ChangeAttributeCmd.h"
 
 #include "commands/CommandPair.h"
+#include "commands/NullCmd.h"
 #include "datatypes/ScreenMetaData.h"
 #include "parameters/Attribute.h"
 #include "support/ParameterEditTest.h"
@@ -161,6 +162,12 @@ TEST_F(ChangeAttributeCmdTest, ACloneChangesOnItsOwn)
     boost::shared_ptr<Command> const copy(setWidth(800)->clone());
     EXPECT_TRUE(edits(copy));
     EXPECT_EQ(800.0f, width());
+}
+
+TEST_F(ChangeAttributeCmdTest, WithACommandOfAnotherKindItGroups)
+{
+    boost::shared_ptr<Command> const both = setWidth(800)->combine(NullCmd::create());
+    EXPECT_TRUE(boost::dynamic_pointer_cast<CommandPair>(both));
 }
 
 }  // namespace

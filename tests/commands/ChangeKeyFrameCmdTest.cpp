@@ -1,6 +1,7 @@
 #include "commands/ChangeKeyFrameCmd.h"
 
 #include "commands/CommandPair.h"
+#include "commands/NullCmd.h"
 #include "support/ParameterEditTest.h"
 #include "support/WatchingHandler.h"
 
@@ -134,6 +135,12 @@ TEST_F(ChangeKeyFrameCmdTest, ACloneChangesOnItsOwn)
 {
     boost::shared_ptr<Command> const copy(changeKey(0, 0.8)->clone());
     EXPECT_TRUE(editsKeys(copy, *opacity, "0=0.8"));
+}
+
+TEST_F(ChangeKeyFrameCmdTest, WithACommandOfAnotherKindItGroups)
+{
+    boost::shared_ptr<Command> const both = changeKey(0, 0.8)->combine(NullCmd::create());
+    EXPECT_TRUE(boost::dynamic_pointer_cast<CommandPair>(both));
 }
 
 }  // namespace

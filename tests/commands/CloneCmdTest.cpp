@@ -69,6 +69,24 @@ TEST_F(CloneCmdTest, NamesOriginalAndClone)
               xmlOf(*command));
 }
 
+TEST_F(CloneCmdTest, ACloneOfTheCommandMakesAResultOfItsOwn)
+{
+    boost::shared_ptr<CloneCmd<Media>> const command = cloning();
+    boost::shared_ptr<CloneCmd<Media>> const copy(command->clone());
+    project->execute(copy);
+    EXPECT_TRUE(copy->result());
+    EXPECT_FALSE(command->result());
+}
+
+TEST_F(CloneCmdTest, ExecutedAgainItKeepsItsResult)
+{
+    boost::shared_ptr<CloneCmd<Media>> const command = cloning();
+    project->execute(command);
+    boost::shared_ptr<Media> const made = command->result();
+    project->execute(command);
+    EXPECT_EQ(made, command->result());
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

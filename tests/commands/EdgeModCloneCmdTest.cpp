@@ -169,6 +169,25 @@ TEST_F(EdgeModCloneCmdTest, IsWrittenByItsNameAlone)
     EXPECT_EQ(emptyElement("EdgeModCloneCmd", ""), xmlOf(*command));
 }
 
+TEST_F(EdgeModCloneCmdTest, ACloneOfTheCommandMakesAMediaOfItsOwn)
+{
+    boost::shared_ptr<EdgeModCloneCmd> const command = cloning();
+    boost::shared_ptr<EdgeModCloneCmd> const copy(command->clone());
+    EXPECT_TRUE(edits(copy));
+    EXPECT_TRUE(copy->mediaClone());
+    EXPECT_FALSE(command->mediaClone());
+}
+
+TEST_F(EdgeModCloneCmdTest, ExecutedAgainItKeepsTheMediaItMade)
+{
+    boost::shared_ptr<EdgeModCloneCmd> const command = cloning();
+    project->execute(command);
+    boost::shared_ptr<Media> const made = command->mediaClone();
+    project->undo();
+    project->execute(command);
+    EXPECT_EQ(made, command->mediaClone());
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

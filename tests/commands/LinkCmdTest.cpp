@@ -129,6 +129,13 @@ TEST_F(LinkCmdTest, NamesBothMediasInXml)
               xml.substr(0, xml.find('\n')));
 }
 
+TEST_F(LinkCmdTest, ACloneLinksOnItsOwn)
+{
+    given("A1: aaa / V1: bbb");
+    EXPECT_TRUE(edits(boost::shared_ptr<Command>(link("A1.a", "V1.b")->clone())));
+    EXPECT_TRUE(areLinked(media("A1.a"), media("V1.b")));
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

@@ -1,6 +1,7 @@
 #include "commands/MoveKeyFrameCmd.h"
 
 #include "commands/CommandPair.h"
+#include "commands/NullCmd.h"
 #include "support/ParameterEditTest.h"
 #include "support/WatchingHandler.h"
 
@@ -134,6 +135,12 @@ TEST_F(MoveKeyFrameCmdTest, ACloneMovesOnItsOwn)
 {
     boost::shared_ptr<Command> const copy(moveKey(20, 40)->clone());
     EXPECT_TRUE(editsKeys(copy, *opacity, "0=1 40=0.4"));
+}
+
+TEST_F(MoveKeyFrameCmdTest, WithACommandOfAnotherKindItGroups)
+{
+    boost::shared_ptr<Command> const both = moveKey(20, 40)->combine(NullCmd::create());
+    EXPECT_TRUE(boost::dynamic_pointer_cast<CommandPair>(both));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "commands/MoveKeyframesCmd.h"
 
 #include "commands/CommandPair.h"
+#include "commands/NullCmd.h"
 #include "support/ParameterEditTest.h"
 #include "support/WatchingHandler.h"
 
@@ -126,6 +127,12 @@ TEST_F(MoveKeyframesCmdTest, ACloneShiftsOnItsOwn)
 {
     boost::shared_ptr<Command> const copy(moveKeys(5)->clone());
     EXPECT_TRUE(editsKeys(copy, *opacity, "5=1 25=0.4"));
+}
+
+TEST_F(MoveKeyframesCmdTest, WithACommandOfAnotherKindItGroups)
+{
+    boost::shared_ptr<Command> const both = moveKeys(30)->combine(NullCmd::create());
+    EXPECT_TRUE(boost::dynamic_pointer_cast<CommandPair>(both));
 }
 
 }  // namespace

@@ -98,6 +98,16 @@ TEST_F(NewAudioTrackCmdTest, PrintsNoTracksUntilItRuns)
                             "removedATrackIndex=\""));
 }
 
+TEST_F(NewAudioTrackCmdTest, ACloneMakesATrackOfItsOwn)
+{
+    given("A1: aa");
+    boost::shared_ptr<NewAudioTrackCmd> const original = NewAudioTrackCmd::create(0);
+    boost::shared_ptr<NewAudioTrackCmd> const copy(original->clone());
+    EXPECT_TRUE(edits(copy, "A2: aa"));
+    EXPECT_EQ(track("A1"), copy->track());
+    EXPECT_FALSE(original->track());
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

@@ -98,6 +98,16 @@ TEST_F(NewVisualTrackCmdTest, PrintsNoTracksUntilItRuns)
                             "removedVTrackIndex=\""));
 }
 
+TEST_F(NewVisualTrackCmdTest, ACloneMakesATrackOfItsOwn)
+{
+    given("V1: aa");
+    boost::shared_ptr<NewVisualTrackCmd> const original = NewVisualTrackCmd::create(0);
+    boost::shared_ptr<NewVisualTrackCmd> const copy(original->clone());
+    EXPECT_TRUE(edits(copy, "V2: aa"));
+    EXPECT_EQ(track("V1"), copy->track());
+    EXPECT_FALSE(original->track());
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

@@ -115,6 +115,14 @@ TEST_F(RemoveEffectCmdTest, XmlBeforeTheRunHasNoRemovedEffect)
               xmlOf(*command).find(" removedEffect=\"0\" removedEffectIndex=\""));
 }
 
+TEST_F(RemoveEffectCmdTest, ACloneRemovesTheSameEffect)
+{
+    boost::shared_ptr<Command> const copy(RemoveEffectCmd::create(media("V1.a"), middle)->clone());
+    EXPECT_TRUE(edits(copy));
+    ASSERT_EQ(2, media("V1.a")->numEffects());
+    EXPECT_EQ(last, media("V1.a")->effectAtIndex(1));
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

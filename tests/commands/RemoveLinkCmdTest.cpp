@@ -79,6 +79,14 @@ TEST_F(RemoveLinkCmdTest, NamesBothMediasInXml)
               xmlOf(*removeLink("A1.a", "V1.a")));
 }
 
+TEST_F(RemoveLinkCmdTest, ACloneUnlinksTheSameWay)
+{
+    given("A1: aaa / V1: aaa");
+    EXPECT_TRUE(edits(boost::shared_ptr<Command>(removeLink("A1.a", "V1.a")->clone())));
+    EXPECT_FALSE(media("A1.a")->isLinkedWith(media("V1.a")));
+    EXPECT_TRUE(media("V1.a")->isLinkedWith(media("A1.a")));
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

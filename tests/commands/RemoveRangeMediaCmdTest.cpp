@@ -179,5 +179,12 @@ TEST_F(RemoveRangeMediaCmdTest, PrintsTheTimelineAndTheRange)
               xmlOf(*removeRange(2, 5, {"V1"})));
 }
 
+TEST_F(RemoveRangeMediaCmdTest, ALinkedMediaOfTheSameTrackMayHaveGoneAlready)
+{
+    given("V1: aaa.bbb");
+    media("V1.a")->link(media("V1.b"));
+    EXPECT_TRUE(edits(removeRange(0, 7, {"V1"}), "V1: "));
+}
+
 }  // namespace test
 }  // namespace tarn

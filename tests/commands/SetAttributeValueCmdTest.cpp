@@ -96,5 +96,17 @@ TEST_F(SetAttributeValueCmdTest, PrintsZeroForAnEmptyValue)
               xmlOf(*SetMetaData::create(attribute, MetaData())));
 }
 
+TEST_F(SetAttributeValueCmdTest, ACloneSetsTheSameValue)
+{
+    MetaData const before = newMetaData();
+    MetaData const after = newMetaData();
+    boost::shared_ptr<Attribute<MetaData>> const attribute = attributeOf(before);
+    boost::shared_ptr<Command> const copy(SetMetaData::create(attribute, after)->clone());
+    project->execute(copy);
+    EXPECT_EQ(after, attribute->value());
+    project->undo();
+    EXPECT_EQ(before, attribute->value());
+}
+
 }  // namespace test
 }  // namespace tarn

@@ -129,10 +129,12 @@ TEST_F(StretchCmdTest, TheCombinedCommandHasTheLatersRequestAndResultAndTheFirst
 
 TEST_F(StretchCmdTest, OnTwoMediasOrWithAnotherCommandItCombinesIntoAPair)
 {
-    given("V1: aaabbb");
+    given("V1: aaabbb / V2: c");
     boost::shared_ptr<Command> const command = stretch("V1.a", 0.5);
     EXPECT_TRUE(boost::dynamic_pointer_cast<CommandPair>(command->combine(stretch("V1.b", 0.5))));
     EXPECT_TRUE(boost::dynamic_pointer_cast<CommandPair>(command->combine(move("V1.a", 5))));
+    EXPECT_TRUE(boost::dynamic_pointer_cast<CommandPair>(
+        command->combine(StretchCmd::create(track("V2"), media("V1.a"), 0.5))));
 }
 
 // 9990 from 500 reaches past the source's end at 10000, where natural speed is cut.

@@ -99,6 +99,15 @@ TEST_F(SwapEffectOrderCmdTest, XmlTellsOwnerAndIndices)
     EXPECT_EQ(expected.str(), xmlOf(*swap(0, 2)));
 }
 
+TEST_F(SwapEffectOrderCmdTest, ACloneSwapsTheSamePlaces)
+{
+    boost::shared_ptr<Command> const original = swap(0, 2);
+    boost::shared_ptr<Command> const copy(original->clone());
+    project->execute(original);
+    EXPECT_TRUE(edits(copy));
+    EXPECT_EQ("012", order());
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

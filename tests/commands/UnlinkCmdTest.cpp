@@ -111,6 +111,13 @@ TEST_F(UnlinkCmdTest, NamesTheMediaInXml)
               xml.substr(0, xml.find('\n')));
 }
 
+TEST_F(UnlinkCmdTest, ACloneUnlinksTheSameMedia)
+{
+    given("A1: aaa / V1: aaa");
+    EXPECT_TRUE(edits(boost::shared_ptr<Command>(unlink("V1.a")->clone())));
+    EXPECT_EQ(0u, numLinks("A1.a"));
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

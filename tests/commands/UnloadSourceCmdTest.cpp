@@ -102,5 +102,13 @@ TEST_F(UnloadSourceCmdTest, PrintsZeroForNoSource)
               xmlOf(*UnloadSourceCmd::create(nullptr)));
 }
 
+TEST_F(UnloadSourceCmdTest, ACloneTakesTheSameSourceOut)
+{
+    boost::shared_ptr<Source const> const first = load("fake:first");
+    boost::shared_ptr<Source const> const second = load("fake:second");
+    EXPECT_TRUE(edits(boost::shared_ptr<Command>(UnloadSourceCmd::create(second)->clone())));
+    EXPECT_EQ(only(first), bin());
+}
+
 }  // namespace test
 }  // namespace tarn

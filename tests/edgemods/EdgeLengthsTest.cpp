@@ -13,6 +13,8 @@
 #include <boost/smart_ptr/bad_weak_ptr.hpp>
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace tarn {
 namespace test {
 namespace {
@@ -208,6 +210,17 @@ TEST_F(EdgeLengthsTest, QueriesNeedALivingProject)
     EXPECT_THROW(m_media->rightEdgeModificationLength(), boost::bad_weak_ptr);
     EXPECT_THROW(m_media->leftEdgeModifications(), boost::bad_weak_ptr);
     EXPECT_THROW(m_media->rightEdgeModifications(), boost::bad_weak_ptr);
+}
+
+TEST_F(EdgeLengthsTest, LengthsWhoseSumIsNoNumberGoThroughTheSameRule)
+{
+    long long const k_max = std::numeric_limits<long long>::max();
+    long long const k_min = std::numeric_limits<long long>::min();
+    EXPECT_EQ(Lengths(50, 50), lengths(100, k_max, k_max));
+    EXPECT_EQ(Lengths(k_min, k_min), lengths(100, k_min, k_min));
+    // Twice -5e18 is no number either, but certainly fits: the longer one gets the rest.
+    long long const k_wild = -5000000000000000000;
+    EXPECT_EQ(Lengths(k_wild, 100 - k_wild), lengths(100, k_wild, k_max));
 }
 
 }  // namespace

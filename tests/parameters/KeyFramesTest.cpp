@@ -89,6 +89,22 @@ TEST_F(KeyFramesTest, ReservingKeepsWhatThereIs)
     EXPECT_EQ("20=10 40=20 ", line());
 }
 
+TEST_F(KeyFramesTest, ReservingLessThanThereIsKeepsAllOfThem)
+{
+    insert(0, 20);
+    insert(1, 40);
+    frames.reserve(1);
+    EXPECT_EQ("20=10 40=20 ", line());
+}
+
+TEST_F(KeyFramesTest, OneOfSeveralCanBeReplaced)
+{
+    insert(0, 20);
+    insert(1, 40);
+    frames.replace(1, boost::make_shared<KeyFrame<double>>(40, 7.0));
+    EXPECT_EQ("20=10 40=7 ", line());
+}
+
 TEST_F(KeyFramesTest, SwapsOneWithSeveral)
 {
     insert(0, 20);

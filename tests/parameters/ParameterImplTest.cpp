@@ -33,6 +33,14 @@ protected:
     double doInterpolate(double, double, double position) const override { return position; }
 };
 
+/// A host's own kind of frame.
+class HostFrame : public KeyFrame<double>
+{
+public:
+    using KeyFrame::KeyFrame;
+    HostFrame* clone() const override { return new HostFrame(*this); }
+};
+
 class ParameterImplTest : public ::testing::Test
 {
 protected:
@@ -503,6 +511,29 @@ TEST_F(ParameterImplTest, TimesThatADoubleCannotTellApartEndInANeighboursValue)
     EXPECT_EQ(30.0, parameter->valueAtTime(9223372036854775808.0));
 }
 
+TEST_F(ParameterImplTest, ATimeThatADoubleCannotTellFromTheLastGivesTheLastValue)
+{
+    // As a double, the last time is 2^60.
+    parameter->addKeyFrame(0, 10.0);
+    parameter->addKeyFrame((1LL << 60) - 1, 20.0);
+    EXPECT_EQ(20.0, parameter->valueAtTime(1152921504606846976.0));
+}
+
+TEST_F(ParameterImplTest, FindsItsPlaceAmongManyKeyFrames)
+{
+    // The squares of 0 to 63, each with its root as its value.
+    tellPositions();
+    for (int root = 0; root < 64; ++root)
+        parameter->addKeyFrame(root * root, root);
+    int faults = 0;
+    for (int root = 0; root < 63; ++root) {
+        int const width = 2 * root + 1;
+        faults += parameter->valueAtTime(root * root) != root;
+        faults += parameter->valueAtTime(root * root + 0.5) != 0.5 / width;
+    }
+    EXPECT_EQ(0, faults);
+}
+
 TEST_F(ParameterImplTest, TheInterpolaterMayChangeInTheMiddleOfASpan)
 {
     parameter->addKeyFrame(0, 10.0);
@@ -563,6 +594,15 @@ TEST_F(ParameterImplTest, ACloneSharesNoFrame)
     EXPECT_NE(parameter->keyframeAtTime(4), clone->keyframeAtTime(4));
     EXPECT_EQ(1.0, parameter->valueAtTime(4));
     EXPECT_EQ("level", clone->ident());
+}
+
+TEST_F(ParameterImplTest, ACloneKeepsAHostsOwnKindOfFrame)
+{
+    parameter->addKeyFrame(Frame(new HostFrame(4, 1.0)));
+    boost::shared_ptr<InterpolatingParam<double>> const copy(parameter->clone());
+    Frame const copied = copy->keyframeAtTime(4);
+    EXPECT_TRUE(boost::dynamic_pointer_cast<HostFrame>(copied));
+    EXPECT_NE(parameter->keyframeAtTime(4), copied);
 }
 
 TEST_F(ParameterImplTest, ACloneHasNoObservers)

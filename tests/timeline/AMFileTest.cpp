@@ -60,6 +60,26 @@ TEST_F(AMFileTest, ShowsARangeOfItsSourceAndIsBoundedByIt)
     EXPECT_EQ(10000.0, channel(0)->mediaEndLimit());
 }
 
+TEST_F(AMFileTest, MayHaveNoChannel)
+{
+    EXPECT_EQ(0u, sound({})->numChannels());
+}
+
+TEST_F(AMFileTest, NamesItsFileAndTheContainerOfThat)
+{
+    EXPECT_EQ("fake:movie", channel(0)->containerFileName());
+    EXPECT_EQ("a.wav", named()->containerFileName());
+}
+
+TEST_F(AMFileTest, HasNoSourceThatIsNone)
+{
+    boost::shared_ptr<Source const> const nothing;
+    EXPECT_EQ("trying to make a amfile with an invalid source track", refusal([&] {
+                  AMFile(Range<long long>(500, 100), project->weak(), nothing, 1, 0u);
+              }));
+    EXPECT_FALSE(channel(0)->isInstanceOf(nothing));
+}
+
 TEST_F(AMFileTest, HasOneChannelOrSeveral)
 {
     EXPECT_EQ(Channels{1}, channel(1)->channels());

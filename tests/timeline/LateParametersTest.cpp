@@ -227,6 +227,15 @@ TEST_F(LateParametersTest, AllShownValuesAreThoseOfTheParametersInOrder)
     EXPECT_EQ(expected, std::vector<double>(std::begin(values), std::end(values)));
 }
 
+TEST_F(LateParametersTest, AllShownValuesOfAPictureNobodyAskedAreThoseItStartsWith)
+{
+    double values[VisualMedia::k_numShownValues];
+    picture->shownValuesAtTime(5, values);
+    std::vector<double> expected(VisualMedia::k_numShownValues, 0.0);
+    expected[8] = expected[9 + 8] = expected[9 + 9] = expected[9 + 10] = 1.0;
+    EXPECT_EQ(expected, std::vector<double>(std::begin(values), std::end(values)));
+}
+
 TEST_F(LateParametersTest, NothingDiffersBetweenTimesOfAPictureNobodyAsked)
 {
     EXPECT_FALSE(ParametricTemporalDifferentiater::timesDiffer(picture, 0, 10));
@@ -280,6 +289,12 @@ TEST_F(LateParametersTest, ACopyTakesOverWhatWasChanged)
     EXPECT_TRUE(std::signbit(copy->rotation()->at(0)->valueAtTime(0)));
     EXPECT_EQ("depth", copy->scale()->at(2)->ident());
     EXPECT_EQ(0, copy->shear()->at(0)->interpolaterParam()->numKeyFrames());
+}
+
+TEST_F(LateParametersTest, ACopyTakesOverTheNameOfAWholeVector)
+{
+    picture->anchor()->identAttribute()->setValue("pivot");
+    EXPECT_EQ("pivot", sharedClone(picture)->anchor()->identAttribute()->value());
 }
 
 TEST_F(LateParametersTest, AMovedKeyFrameIsCopied)

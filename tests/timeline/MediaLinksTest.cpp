@@ -330,6 +330,13 @@ TEST_F(MediaLinksTest, ALinkThatIsOnlyClaimedCannotBeRemoved)
     EXPECT_EQ("unable to remove linked media list", refusal([&] { braggart->removeLink(a); }));
 }
 
+TEST_F(MediaLinksTest, NoMediaIsLinkedOrLinkableWithNothing)
+{
+    boost::shared_ptr<Media const> const nothing;
+    EXPECT_FALSE(a->isLinkedWith(nothing));
+    EXPECT_FALSE(a->isLinkableWith(nothing));
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

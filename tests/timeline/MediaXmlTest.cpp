@@ -8,6 +8,7 @@
 #include "parameters/InterpolatingParam.h"
 #include "parameters/LeftParameter.h"
 #include "support/MediaKindTest.h"
+#include "support/OneOfEachKind.h"
 #include "support/Xml.h"
 #include "timeline/AMFile.h"
 #include "timeline/AudioTransition.h"
@@ -18,6 +19,7 @@
 #include "timeline/VMFile.h"
 
 #include <set>
+#include <sstream>
 #include <string>
 
 namespace tarn {
@@ -316,6 +318,37 @@ TEST_F(MediaXmlTest, EdgesAreWrittenLeftThenRight)
                   "  </EdgeMod>\n"
                   " </RightEdgeMods>\n",
               part(*made, " <LeftEdgeMods", " </RightEdgeMods>\n"));
+}
+
+// ---- what a host's own kind is called unless it says otherwise ----
+
+TEST_F(MediaXmlTest, AKindIsNamedAfterTheOneItExtends)
+{
+    std::ostringstream out;
+    XMLable::Options options{&out, ""};
+    boost::shared_ptr<VMFile> const picture = video();
+    boost::shared_ptr<IMFile> const still = OneOfEachKind(project->weak()).still;
+    picture->MediaImpl::xmlName(options);
+    out << ' ';
+    picture->VisualMedia::xmlName(options);
+    out << ' ';
+    still->ImageMedia::xmlName(options);
+    out << ' ';
+    still->AbstractIMFile::xmlName(options);
+    out << ' ';
+    sound()->AudioMedia::xmlName(options);
+    EXPECT_EQ("MediaImpl VisualMedia ImageMedia AbstractIMFile AudioMedia", out.str());
+}
+
+TEST_F(MediaXmlTest, AKindIsDescribedByTheOneItExtends)
+{
+    boost::shared_ptr<VMFile> const picture = video();
+    boost::shared_ptr<IMFile> const still = OneOfEachKind(project->weak()).still;
+    EXPECT_EQ("VisualMedia", picture->VisualMedia::description());
+    EXPECT_EQ("ImageMedia", still->ImageMedia::description());
+    EXPECT_EQ("AbstractIMFile", still->AbstractIMFile::description());
+    EXPECT_EQ("", VisualFileMedia(SourceTrack("a.mov")).description());
+    EXPECT_EQ("", picture->mediaEditor().description());
 }
 
 }  // namespace

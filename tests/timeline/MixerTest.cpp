@@ -350,6 +350,38 @@ TEST_F(MixerTest, KnowsTheInstancesOfASourceByTrackAndTime)
     EXPECT_TRUE(audioMixer()->instancesOf(source('b'))->empty());
 }
 
+TEST_F(MixerTest, PortionsNeedNoMap)
+{
+    given("V1: aaaa / V2: bb");
+    boost::shared_ptr<VisualMixer> const portion =
+        visualMixer()->copyPortion(Range<long long>(10, 20), ConstTrackSet{track("V1")}, nullptr);
+    ASSERT_EQ(1u, portion->numTracks());
+    EXPECT_EQ(10, portion->startTime());
+    EXPECT_EQ(30, portion->endTime());
+    boost::shared_ptr<VisualMixer> const chosen =
+        visualMixer()->copyPortion(ConstMediaVector{media("V2.b")}, nullptr);
+    ASSERT_EQ(1u, chosen->numTracks());
+    EXPECT_EQ(20, chosen->endTime());
+}
+
+TEST_F(MixerTest, ALinkBetweenCopiedMediasHoldsBetweenTheirClonesWithoutAMap)
+{
+    given("V1: aa / V2: aa");
+    boost::shared_ptr<VisualMixer> const chosen =
+        visualMixer()->copyPortion(ConstMediaVector{media("V1.a"), media("V2.a")}, nullptr);
+    EXPECT_TRUE(chosen->trackAtIndex(0)->mediaBegin()->second->isLinkedWith(
+        chosen->trackAtIndex(1)->mediaBegin()->second));
+}
+
+TEST_F(MixerTest, IsNamedAfterItselfWhereAKindOfItIsNot)
+{
+    EXPECT_EQ("Mixer", m_mixer->Mixer::description());
+    std::ostringstream out;
+    XMLable::Options options{&out, ""};
+    m_mixer->Mixer::xmlName(options);
+    EXPECT_EQ("Mixer", out.str());
+}
+
 TEST_F(MixerTest, SortsTheMediasToCopyByTrackAndLeavesOutStrangers)
 {
     given("A1: d / V1: ab / V2: c");

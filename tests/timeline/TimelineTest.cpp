@@ -437,6 +437,7 @@ TEST_F(TimelineTest, ASourceThatIsShownNowhereHasNoInstance)
     EXPECT_FALSE(timeline()->hasInstanceOf(source('c')));
     EXPECT_TRUE(timeline()->instancesOf(source('c'))->empty());
     EXPECT_FALSE(m_fresh->hasInstanceOf(source('a')));
+    EXPECT_TRUE(m_fresh->instancesOf(source('a'))->empty());
 }
 
 TEST_F(TimelineTest, AnInstanceOnTheAudioMixerAloneIsFound)
@@ -568,6 +569,17 @@ TEST_F(TimelineTest, OfChosenMediasOnlyThoseLinksHoldWhoseBothEndsAreChosen)
     boost::shared_ptr<Media const> const alone = clones.at(media("V1.b"));
     EXPECT_TRUE(clones.at(media("V1.a"))->isLinkedWith(clones.at(media("A1.a"))));
     EXPECT_EQ(alone->linkEnd(), alone->linkBegin());
+}
+
+TEST_F(TimelineTest, ACopyOfAnEmptyOneHasNoMixersEither)
+{
+    boost::shared_ptr<Timeline> const portion =
+        m_fresh->copyPortion(Range<long long>(0, 100), ConstTrackSet());
+    EXPECT_FALSE(portion->hasVisualMixer());
+    EXPECT_FALSE(portion->hasAudioMixer());
+    boost::shared_ptr<Timeline> const chosen = m_fresh->copyPortion(ConstMediaVector());
+    EXPECT_FALSE(chosen->hasVisualMixer());
+    EXPECT_FALSE(chosen->hasAudioMixer());
 }
 
 TEST_F(TimelineTest, ACopyOfNoMediasHasNoMixers)

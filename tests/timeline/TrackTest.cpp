@@ -154,6 +154,8 @@ TEST_F(TrackTest, FindsNoMediaWhereNothingStarts)
     given("V1: .aa / V2: bb");
     EXPECT_FALSE(track("V1")->findMedia(media("V2.b")));
     EXPECT_FALSE(m_empty->findMedia(media("V2.b")));
+    EXPECT_FALSE(track("V1")->findMedia(m_nothing));
+    EXPECT_FALSE(track("V1")->hasMedia(m_nothing));
 }
 
 TEST_F(TrackTest, ACutThroughAMediaGivesItTwice)

@@ -178,6 +178,19 @@ TEST_F(VisualMediaHitTesterTest, WhatLiesBehindTheOriginIsNotHit)
     EXPECT_TRUE(hitTester.rayHitsVisualMedia(m_still));
 }
 
+TEST_F(VisualMediaHitTesterTest, WhatIsMetBeyondAllNumbersIsNotHit)
+{
+    // 1e8 steps to the plane, and each goes 1e301 to the side.
+    VisualMediaHitTester hitTester = tester();
+    m_origin = Point(10, 20, 1);
+    m_direction = Point(1e301, 0, -1e-8);
+    EXPECT_FALSE(hitTester.rayHitsVisualMedia(m_still));
+    m_direction = Point(0, 1e301, -1e-8);
+    EXPECT_FALSE(hitTester.rayHitsVisualMedia(m_still));
+    m_direction = Point(0, 0, -1e-8);
+    EXPECT_TRUE(hitTester.rayHitsVisualMedia(m_still));
+}
+
 TEST_F(VisualMediaHitTesterTest, APictureOfNoSizeLeftIsNotHit)
 {
     m_still->scale()->at(0)->changeKeyFrame(0, 0);
@@ -248,6 +261,16 @@ TEST_F(VisualMediaHitTesterTest, ATransitionIsHitWhereItsNeighbourIs)
     EXPECT_TRUE(hits(hitTester, m_kinds.fade));
     EXPECT_TRUE(isNear(hitTester.hitLocation(), Point(7, 17, 0)));
     move(*before, -100, 0, 0);
+    EXPECT_FALSE(hits(hitTester, m_kinds.fade));
+}
+
+TEST_F(VisualMediaHitTesterTest, ATransitionBesideATransitionIsNotHit)
+{
+    boost::shared_ptr<VisualTrack> const track(new VisualTrack(m_project->weak()));
+    boost::shared_ptr<ImageTransition> const other(new ImageTransition(0, 10, m_project->weak()));
+    track->addMedia(m_kinds.fade, 20);
+    track->addMedia(other, 30);
+    VisualMediaHitTester hitTester = tester();
     EXPECT_FALSE(hits(hitTester, m_kinds.fade));
 }
 

@@ -73,6 +73,7 @@ TEST_F(VisualMixerTest, TheEyeStandsBeforeTheMiddle)
     EXPECT_EQ(Point(0, 0, 3000), pointAt(m_const.eyePositionParam(), 0));
     EXPECT_EQ(Point(0, 0, 0), pointAt(m_const.eyeLookAtPositionParam(), 0));
     EXPECT_EQ(Point(0, 1, 0), pointAt(m_const.eyeUpVectorParam(), 0));
+    EXPECT_EQ(m_const.eyeUpVectorParam(), m_mixer->eyeUpVectorParam());
 }
 
 TEST_F(VisualMixerTest, TheFieldOfViewIsFilledByAPictureOfTheMixersHeight)
