@@ -96,11 +96,6 @@ void sortClonesByTrackStart(MediaCloneMap const& map, Clones* clones)
     std::sort(clones->begin(), clones->end(), mediaSorter);
 }
 
-long long calcMinStart(Clones const& clones)
-{
-    return clones.empty() ? 0 : clones.front()->trackRange().start;
-}
-
 // The earliest first, so that no clone meets one that has still to move.
 void moveClonesBack(long long offset, Clones* clones)
 {
@@ -112,7 +107,7 @@ void shiftClonesToZero(MediaCloneMap const& map)
 {
     Clones clones;
     sortClonesByTrackStart(map, &clones);
-    moveClonesBack(calcMinStart(clones), &clones);
+    moveClonesBack(clones.front()->trackRange().start, &clones);
 }
 
 }  // namespace

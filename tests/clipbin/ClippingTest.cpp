@@ -58,6 +58,14 @@ TEST_F(ClippingTest, PicturesAndSoundsCountFromOneLowestPosition)
     EXPECT_EQ(0, clipping->trackPosition(audioTrackOf(*clipping, 0)));
 }
 
+TEST_F(ClippingTest, SoundsNeedNoVisualMixer)
+{
+    given("A1: a / A2: b / A3: c");
+    timeline()->removeVisualMixer();
+    auto const clipping = range(0, 10, {track("A2"), track("A3")});
+    EXPECT_EQ("A1: (0,10)\nA2: (0,10)\n", placesIn(*clipping));
+}
+
 TEST_F(ClippingTest, TheEarliestMediaStartsAtZero)
 {
     given("V1: ..........aa.bb");

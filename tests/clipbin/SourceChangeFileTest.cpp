@@ -214,6 +214,31 @@ TEST_F(ProjectChangeFileTest, TheProjectChangesAFileOutsideTheHistory)
     EXPECT_THROW(project->undo(), TarnMediaLibException);
 }
 
+TEST_F(SourceChangeFileTest, ASoundAloneTakesAnotherFileToo)
+{
+    auto const source = oldAndNew({sound(100)}, {sound(100)});
+    source->changeFile("fake:new");
+    EXPECT_EQ("fake:new", file(*source));
+    EXPECT_EQ("fake:new", soundOf(*source)->fileName());
+}
+
+TEST_F(SourceChangeFileTest, AStillHasNothingBesideIt)
+{
+    auto const source = oldAndNew({still()}, {still()});
+    source->changeFile("fake:new");
+    EXPECT_EQ("fake:new", file(*source));
+}
+
+TEST_F(SourceChangeFileTest, AVideoThatAHostPutThereHasNothingBesideIt)
+{
+    auto const source = oldAndNew({picture(100)}, {picture(100)});
+    boost::shared_ptr<VMFile> const added(
+        new VMFile(Range<long long>(0, 10), project->weak(), source, 0));
+    source->timeline()->visualMixer()->trackAtIndex(0)->addMedia(added, 500);
+    source->changeFile("fake:new");
+    EXPECT_EQ("fake:new", added->fileName());
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace tarn

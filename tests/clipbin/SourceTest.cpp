@@ -14,6 +14,7 @@
 #include <boost/filesystem.hpp>
 #include <gmock/gmock.h>
 
+#include <limits>
 #include <sstream>
 
 namespace tarn {
@@ -80,6 +81,15 @@ TEST_F(SourceTest, LongRangesAtFineRatesDoNotOverflow)
     // 10^13 units of a millionth of a second are 10^7 s; times 30 is 3 * 10^8.
     EXPECT_EQ(Range<long long>(0, 300000000),
               sourceOf({picture(10000000000000, 1000000)})->timeRange());
+}
+
+TEST_F(SourceTest, TimesBeyond64BitsEndAtTheirLimits)
+{
+    long long const k_max = std::numeric_limits<long long>::max();
+    long long const k_min = std::numeric_limits<long long>::min();
+    // A unit a second is 30 of the project's.
+    EXPECT_EQ(Range<long long>(k_min, k_max),
+              sourceOf({over(k_min / 2, k_max / 2, picture(1, 1))})->timeRange());
 }
 
 TEST_F(SourceTest, AStillIsOneUnitWhateverItsFileSays)
@@ -313,6 +323,16 @@ TEST_F(SourceTest, ACopyHasNeitherFileNorTimeline)
     EXPECT_EQ(Range<long long>(0, 0), copy.timeRange());
     EXPECT_EQ(nullptr, copy.mediaFileStats());
     EXPECT_FALSE(copy.timeline());
+    EXPECT_THROW(copy.trackRect(0), IndexException);
+    EXPECT_EQ("<Source id=\"#\"  >\n</Source>\n", xmlOf(copy));
+    EXPECT_EQ(std::string::npos, copy.description().find("fake:source"));
+}
+
+TEST_F(SourceTest, ACopyHasNoFileThatCouldBeChanged)
+{
+    Source copy(*sourceOf({picture(100)}));
+    EXPECT_STREQ("attempting to replace source's file with an incompatable file",
+                 thrownBy<TarnMediaLibException>([&] { copy.changeFile("fake:source"); }).what());
 }
 
 TEST_F(SourceTest, WithoutItsProjectItCannotBeAsked)

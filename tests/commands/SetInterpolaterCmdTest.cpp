@@ -84,6 +84,13 @@ TEST_F(SetInterpolaterCmdTest, IsWrittenWithParameterTimeAndInterpolater)
               command->description());
 }
 
+TEST_F(SetInterpolaterCmdTest, AnEmptyInterpolaterIsWrittenAsEmptyText)
+{
+    boost::shared_ptr<Command> const command =
+        SetInterpolaterCmd<double>::create(opacity, 30, boost::shared_ptr<Interpolater<double>>());
+    EXPECT_NE(std::string::npos, command->description().find(" interpolater=\"\" >"));
+}
+
 TEST_F(SetInterpolaterCmdTest, AWrappingHostSeesItDoneUndoneAndRedone)
 {
     std::string log;

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <locale>
 #include <sstream>
 
 namespace tarn {
@@ -15,6 +16,12 @@ namespace {
 
 using test::FakeProject;
 using test::xmlOf;
+
+class DecimalComma : public std::numpunct<char>
+{
+protected:
+    char do_decimal_point() const override { return ','; }
+};
 
 class InterpolatingParamTest : public ::testing::Test
 {
@@ -180,6 +187,42 @@ TEST_F(InterpolatingParamTest, WritesValuesInTheirStreamForm)
     boost::shared_ptr<InterpolatingParam<float>> const number = newParam<float>("f");
     number->addKeyFrame(0, 0.1f);
     EXPECT_NE(std::string::npos, xmlOf(*number).find("time=\"0\" value=\"0.1\"/>"));
+}
+
+TEST_F(InterpolatingParamTest, WritesValuesInTheLocaleOfTheProcessWhateverTheStreams)
+{
+    boost::shared_ptr<InterpolatingParam<double>> const number = newParam<double>("d");
+    number->addKeyFrame(0, 2.5);
+    std::ostringstream out;
+    std::locale const before =
+        std::locale::global(std::locale(std::locale::classic(), new DecimalComma));
+    number->toXML(out);
+    std::locale::global(before);
+    EXPECT_NE(std::string::npos, out.str().find("time=\"0\" value=\"2,5\"/>"));
+}
+
+TEST_F(InterpolatingParamTest, OnlyOfNumbersIsItKnownThatTheyAreUntouched)
+{
+    boost::shared_ptr<InterpolatingParam<double>> const number = newParam<double>("d");
+    EXPECT_FALSE(number->isUntouched(2.5));
+    number->addKeyFrame(0, 2.5);
+    EXPECT_TRUE(number->isUntouched(2.5));
+    EXPECT_FALSE(number->isUntouched(3.5));
+    boost::shared_ptr<InterpolatingParam<Point>> const point = newParam<Point>("p");
+    point->addKeyFrame(0, Point());
+    EXPECT_FALSE(point->isUntouched(Point()));
+}
+
+TEST_F(InterpolatingParamTest, AnIdentOrAnInterpolaterThatWasAskedForIsATouch)
+{
+    boost::shared_ptr<InterpolatingParam<double>> const named = newParam<double>("d");
+    named->addKeyFrame(0, 2.5);
+    named->identAttribute();
+    EXPECT_FALSE(named->isUntouched(2.5));
+    boost::shared_ptr<InterpolatingParam<double>> const blended = newParam<double>("d");
+    blended->addKeyFrame(0, 2.5);
+    blended->interpolaterParam();
+    EXPECT_FALSE(blended->isUntouched(2.5));
 }
 
 TEST_F(InterpolatingParamTest, WritesAnEmptyInterpolaterAsEmptyText)

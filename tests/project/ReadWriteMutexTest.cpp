@@ -102,6 +102,19 @@ TEST(ReadWriteMutexTest, AWriterWaitsForTheWriter)
     EXPECT_TRUE(writer.finishes());
 }
 
+TEST(ReadWriteMutexTest, WritersThatWaitTogetherGetInOneAfterTheOther)
+{
+    Mutex mutex;
+    mutex.acquireWriteLock();
+    OtherThread first(writeOnce(mutex));
+    OtherThread second(writeOnce(mutex));
+    EXPECT_TRUE(first.isWaiting());
+    EXPECT_TRUE(second.isWaiting());
+    mutex.releaseWriteLock();
+    EXPECT_TRUE(first.finishes());
+    EXPECT_TRUE(second.finishes());
+}
+
 TEST(ReadWriteMutexTest, WriteLocksNest)
 {
     Mutex mutex;

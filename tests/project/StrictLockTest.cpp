@@ -248,6 +248,47 @@ TEST_F(StrictLockTest, AReaderGetsInBesideWritersThatNeverStop)
     EXPECT_TRUE(writers.allFinish());
 }
 
+TEST_F(StrictLockTest, TheWriterWaitsForTheLastOfSeveralReaders)
+{
+    std::atomic<bool> isInside{false};
+    std::atomic<bool> isOver{false};
+    OtherThread reader([&] {
+        Mutex::ScopedReadLock const lock(mutex);
+        isInside = true;
+        waitUntil([&isOver] { return isOver.load(); });
+    });
+    waitUntil([&isInside] { return isInside.load(); });
+    mutex.acquireReadLock();
+    OtherThread writer(writeOnce(mutex));
+    waitForWriter(mutex);
+    mutex.releaseReadLock();
+    EXPECT_TRUE(mutex.isWriterWaiting());
+    isOver = true;
+    EXPECT_TRUE(writer.finishes());
+    EXPECT_TRUE(reader.finishes());
+}
+
+TEST_F(StrictLockTest, AWriterThatOnlyReadsOnLetsWaitingReadersIn)
+{
+    mutex.acquireWriteLock();
+    mutex.acquireReadLock();
+    OtherThread reader(readOnce(mutex));
+    EXPECT_TRUE(reader.isWaiting());
+    mutex.releaseWriteLock();
+    EXPECT_TRUE(reader.finishes());
+    mutex.releaseReadLock();
+}
+
+TEST_F(StrictLockTest, AWriterThatDoesNotReadReleasesNoReadLock)
+{
+    mutex.acquireWriteLock();
+    mutex.releaseReadLock();
+    OtherThread reader(readOnce(mutex));
+    EXPECT_TRUE(reader.isWaiting());
+    mutex.releaseWriteLock();
+    EXPECT_TRUE(reader.finishes());
+}
+
 TEST_F(StrictLockTest, AReadLockTakenWhileWritingMayOutlastIt)
 {
     mutex.acquireWriteLock();
