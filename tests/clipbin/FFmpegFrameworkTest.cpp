@@ -162,6 +162,40 @@ std::string withBoxRenamed(std::string movie, char const* type, char const* newT
     return movie.replace(boxAt(movie, type), 4, newType);
 }
 
+/// The movie with the first track's header in its longer form, for dates behind 2040.
+std::string withLongTimes(std::string movie)
+{
+    std::string const nothing = bigEndian(0);
+    std::size_t at = boxAt(movie, "tkhd") + 4;
+    std::string const brief = movie.substr(at, 84);
+    movie.replace(at, 84,
+                  bigEndian(0x01000000 | numberAt(brief, 0)) + nothing + brief.substr(4, 4) +
+                      nothing + brief.substr(8, 12) + nothing + brief.substr(20));
+    at = 0;
+    for (char const* type : {"moov", "trak", "tkhd"}) {
+        at = boxAt(movie, type, at);
+        movie.replace(at - 4, 4, bigEndian(numberAt(movie, at - 4) + 12));
+    }
+    return movie;
+}
+
+/// The movie with the size of its data in 64 bits, for which ffmpeg leaves an empty box before.
+std::string withLongData(std::string movie)
+{
+    std::size_t const at = boxAt(movie, "mdat");
+    std::uint32_t const size = numberAt(movie, at - 4) + 8;
+    return movie.replace(at - 12, 16, bigEndian(1) + "mdat" + bigEndian(0) + bigEndian(size));
+}
+
+/// The movie with that matrix, in 65536ths, for the first track.
+std::string withMatrix(std::string const& movie, int a, int b, int c, int d)
+{
+    std::string turned = withNumberInBox(movie, "tkhd", 40, static_cast<std::uint32_t>(a));
+    turned = withNumberInBox(turned, "tkhd", 44, static_cast<std::uint32_t>(b));
+    turned = withNumberInBox(turned, "tkhd", 52, static_cast<std::uint32_t>(c));
+    return withNumberInBox(turned, "tkhd", 56, static_cast<std::uint32_t>(d));
+}
+
 std::string thirtyFrames()
 {
     return made("thirty.mov", MediaFiles::picture(30, "30") + k_h264);
@@ -314,6 +348,17 @@ TEST(FFmpegFrameworkTest, ATransportStreamStartsAtZero)
     EXPECT_EQ(50, converted(range.duration, range.timeScale, 25, 1));
 }
 
+TEST(FFmpegFrameworkTest, ALongMovieIsMeasuredByItsTail)
+{
+    // Half a minute, filled up to more than 8 MiB.
+    std::string const path =
+        made("long.ts", MediaFiles::picture(900, "30") + " -c:v mpeg2video -bf 2 -muxrate 3000000");
+    MovieTrack::TimeRange const range = rangeOf(path);
+    EXPECT_LT(std::size_t(8) << 20, content(path).size());
+    EXPECT_EQ(0, range.time);
+    EXPECT_EQ(900, converted(range.duration, range.timeScale, 30, 1));
+}
+
 TEST(FFmpegFrameworkTest, SoundIsToldInSamples)
 {
     MovieTrack::TimeRange const range = rangeOf(made("tone.wav", MediaFiles::tone(1)));
@@ -431,6 +476,20 @@ TEST(FFmpegFrameworkTest, ATurnedMovieIsMeasuredUpright)
     EXPECT_EQ("64x48", sizeOf(around));
 }
 
+TEST(FFmpegFrameworkTest, AMovieTurnedBySomeAngleIsAsLargeAsTheBoxAroundIt)
+{
+    // By 45 degrees: (64 + 48) x 0.7071 = 79.2 both ways.
+    std::string const movie = content(thirtyFrames());
+    EXPECT_EQ("79x79",
+              sizeOf(written("slanted.mov", withMatrix(movie, 46341, 46341, -46341, 46341))));
+}
+
+TEST(FFmpegFrameworkTest, AMatrixThatTurnsNothingIntoNothingIsNotBelieved)
+{
+    EXPECT_EQ("64x48",
+              sizeOf(written("flat.mov", withMatrix(content(thirtyFrames()), 0, 0, 0, 0))));
+}
+
 TEST(FFmpegFrameworkTest, ACleanApertureCutsThePicture)
 {
     std::string const movie = withBoxInDescription(content(thirtyFrames()), cleanAperture(60, 44));
@@ -441,6 +500,37 @@ TEST(FFmpegFrameworkTest, ACleanApertureLargerThanThePictureIsNotBelieved)
 {
     std::string const movie = withBoxInDescription(content(thirtyFrames()), cleanAperture(65, 44));
     EXPECT_EQ("64x48", sizeOf(written("unclean.mov", movie)));
+    std::string const high = withBoxInDescription(content(thirtyFrames()), cleanAperture(60, 49));
+    EXPECT_EQ("64x48", sizeOf(written("high.mov", high)));
+}
+
+TEST(FFmpegFrameworkTest, ACleanApertureOfNothingIsNotBelieved)
+{
+    std::string const movie = content(thirtyFrames());
+    std::string const narrow = withBoxInDescription(movie, cleanAperture(0, 44));
+    std::string const low = withBoxInDescription(movie, cleanAperture(60, 0));
+    std::string const brief =
+        withBoxInDescription(movie, bigEndian(16) + "clap" + bigEndian(60) + bigEndian(1));
+    std::string endless = withBoxInDescription(movie, cleanAperture(60, 44));
+    endless = withNumberInBox(endless, "clap", 4, 0);
+    EXPECT_EQ("64x48", sizeOf(written("narrow.mov", narrow)));
+    EXPECT_EQ("64x48", sizeOf(written("low.mov", low)));
+    EXPECT_EQ("64x48", sizeOf(written("brief.mov", brief)));
+    EXPECT_EQ("64x48", sizeOf(written("endless.mov", endless)));
+}
+
+TEST(FFmpegFrameworkTest, ACleanApertureIsThatOfItsTrackAlone)
+{
+    std::string const movie = withBoxInDescription(content(thirtyFrames()), cleanAperture(60, 44));
+    EXPECT_EQ("60x44", sizeOf(written("long.mov", withLongTimes(movie))));
+    EXPECT_EQ("64x48", sizeOf(written("headless.mov", withBoxRenamed(movie, "tkhd", "free"))));
+}
+
+TEST(FFmpegFrameworkTest, DataMayHaveASizeOf64Bits)
+{
+    std::string const movie = written("wide.mov", withLongData(content(thirtyFrames())));
+    EXPECT_EQ("vide ", tracksOf(movie));
+    EXPECT_EQ("64x48", sizeOf(movie));
 }
 
 TEST(FFmpegFrameworkTest, TracksStandInTheOrderOfTheFile)
@@ -562,6 +652,8 @@ TEST(FFmpegFrameworkTest, TablesThatClaimMoreThanTheyHoldAreRefused)
     EXPECT_FALSE(opens(written("stts.mov", withNumberInBox(movie, "stts", 4, 0x7FFFFFFF))));
     EXPECT_FALSE(opens(written("stsz.mov", withNumberInBox(movie, "stsz", 8, 1000))));
     EXPECT_FALSE(opens(written("stco.mov", withNumberInBox(movie, "stco", 4, 100000))));
+    EXPECT_FALSE(opens(written(
+        "co64.mov", withNumberInBox(withBoxRenamed(movie, "stco", "co64"), "co64", 4, 100000))));
 }
 
 TEST(FFmpegFrameworkTest, ChunksThatClaimMoreSamplesThanThereAreAreRefused)
@@ -589,7 +681,16 @@ TEST(FFmpegFrameworkTest, FragmentsOfATrackWithoutANumberAreRefusedAtOnce)
     std::string const negative = withNumberInBox(content(fragmented()), "tkhd", 12, 0x80000000);
     EXPECT_FALSE(opens(written("unnumbered.mp4", unnumbered)));
     EXPECT_FALSE(opens(written("negative.mp4", negative)));
+    std::string brief = content(fragmented());
+    brief.replace(boxAt(brief, "tkhd") - 4, 4, bigEndian(16));
+    EXPECT_FALSE(opens(written("brief.mp4", brief)));
     EXPECT_GT(std::chrono::milliseconds(500), std::chrono::steady_clock::now() - begin);
+}
+
+TEST(FFmpegFrameworkTest, FragmentsBehindACompressedHeaderAreRefused)
+{
+    EXPECT_FALSE(
+        opens(written("packed.mp4", withBoxRenamed(content(fragmented()), "udta", "cmov"))));
 }
 
 TEST(FFmpegFrameworkTest, NothingStaysOpenAndNothingIsPrinted)
