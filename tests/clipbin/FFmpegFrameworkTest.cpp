@@ -359,6 +359,13 @@ TEST(FFmpegFrameworkTest, ALongMovieIsMeasuredByItsTail)
     EXPECT_EQ(900, converted(range.duration, range.timeScale, 30, 1));
 }
 
+TEST(FFmpegFrameworkTest, ALongMovieThatIsSmallIsMeasuredToo)
+{
+    MovieTrack::TimeRange const range =
+        rangeOf(made("small.ts", MediaFiles::picture(900, "30") + " -c:v mpeg2video -bf 2"));
+    EXPECT_EQ(900, converted(range.duration, range.timeScale, 30, 1));
+}
+
 TEST(FFmpegFrameworkTest, SoundIsToldInSamples)
 {
     MovieTrack::TimeRange const range = rangeOf(made("tone.wav", MediaFiles::tone(1)));
@@ -502,6 +509,9 @@ TEST(FFmpegFrameworkTest, ACleanApertureLargerThanThePictureIsNotBelieved)
     EXPECT_EQ("64x48", sizeOf(written("unclean.mov", movie)));
     std::string const high = withBoxInDescription(content(thirtyFrames()), cleanAperture(60, 49));
     EXPECT_EQ("64x48", sizeOf(written("high.mov", high)));
+    std::string const vast =
+        withBoxInDescription(content(thirtyFrames()), cleanAperture(1 << 21, 44));
+    EXPECT_EQ("64x48", sizeOf(written("vast.mov", vast)));
 }
 
 TEST(FFmpegFrameworkTest, ACleanApertureOfNothingIsNotBelieved)
@@ -685,6 +695,33 @@ TEST(FFmpegFrameworkTest, FragmentsOfATrackWithoutANumberAreRefusedAtOnce)
     brief.replace(boxAt(brief, "tkhd") - 4, 4, bigEndian(16));
     EXPECT_FALSE(opens(written("brief.mp4", brief)));
     EXPECT_GT(std::chrono::milliseconds(500), std::chrono::steady_clock::now() - begin);
+}
+
+TEST(FFmpegFrameworkTest, BoxesWithinBoxesWithoutEndAreNoMovie)
+{
+    std::string boxes;
+    for (int i = 0; i < 100; ++i) {
+        boxes = bigEndian(static_cast<std::uint32_t>(boxes.size()) + 8) + "moov" + boxes;
+    }
+    std::string const head = bigEndian(16) + "ftypisom" + bigEndian(0);
+    EXPECT_FALSE(opens(written("boxes.mp4", head + boxes)));
+}
+
+TEST(FFmpegFrameworkTest, TagsBeforeASoundAreSkippedWithTheirFooters)
+{
+    std::string const sound = content(made("tagged.mp3", MediaFiles::tone(1)));
+    std::string const tag("ID3\x04\x00\x10\x00\x00\x00\x00", 10);
+    std::string const footer("3DI\x04\x00\x10\x00\x00\x00\x00", 10);
+    EXPECT_EQ("soun ", tracksOf(written("footer.mp3", tag + footer + sound)));
+}
+
+TEST(FFmpegFrameworkTest, TagsWithoutEndAreNoSound)
+{
+    std::string tags;
+    for (int i = 0; i < 1000; ++i) {
+        tags.append("ID3\x04\x00\x00\x00\x00\x00\x00", 10);
+    }
+    EXPECT_FALSE(opens(written("tags.mp3", tags)));
 }
 
 TEST(FFmpegFrameworkTest, FragmentsBehindACompressedHeaderAreRefused)

@@ -6,6 +6,7 @@
 #include "parameters/VectorParam.h"
 #include "support/CommandXml.h"
 #include "support/Fades.h"
+#include "support/FaultyHandler.h"
 #include "support/ModelTest.h"
 #include "support/WatchingHandler.h"
 #include "timeline/AudioMixer.h"
@@ -186,6 +187,20 @@ TEST_F(EdgeModCloneCmdTest, ExecutedAgainItKeepsTheMediaItMade)
     project->undo();
     project->execute(command);
     EXPECT_EQ(made, command->mediaClone());
+}
+
+TEST_F(EdgeModCloneCmdTest, AnUndoThatBreaksDownLeavesTheWholeEdgeWithTheClone)
+{
+    giveFades(original(), 10, 20);
+    original()->addRightEdgeModification(EdgeModification(xOf(original()), FadeOutFunc()));
+    project->execute(cloning());
+    {
+        // After the length, the first of the two is back, and the second is refused.
+        FaultyHandler<ForeignFault> const faulty(*project, 3, ForeignFault());
+        EXPECT_THROW(project->undo(), ForeignFault);
+    }
+    EXPECT_EQ(0u, original()->rightEdgeModifications().size());
+    EXPECT_EQ(0, original()->rightEdgeModificationLength());
 }
 
 }  // namespace

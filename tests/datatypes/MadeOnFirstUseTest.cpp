@@ -36,6 +36,13 @@ TEST(MadeOnFirstUseTest, StaysTheSameOne)
     EXPECT_EQ(first, object.get(failing));
 }
 
+TEST(MadeOnFirstUseTest, NothingIsNotOneThatExists)
+{
+    MadeOnFirstUse<int> const object{boost::shared_ptr<int>()};
+    EXPECT_FALSE(object.isMade());
+    EXPECT_EQ(7, *object.get(seven));
+}
+
 TEST(MadeOnFirstUseTest, MayStartWithOneThatExists)
 {
     boost::shared_ptr<int> const existing = seven();

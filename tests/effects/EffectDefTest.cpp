@@ -16,6 +16,7 @@ TEST(EffectDefTest, StartsWithoutNameAndParameters)
 TEST(EffectDefTest, HasTheNameItWasMadeWith)
 {
     EXPECT_EQ("Glow", EffectDef("Glow").name());
+    EXPECT_EQ("", EffectDef("Glow").description());
 }
 
 TEST(EffectDefTest, KeepsItsParametersInOrderOfAdding)

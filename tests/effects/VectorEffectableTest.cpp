@@ -56,6 +56,7 @@ protected:
 
 TEST_F(VectorEffectableTest, StartsEmpty)
 {
+    EXPECT_EQ("", m_list.VectorEffectable::description());
     EXPECT_EQ(0, VectorEffectable().numEffects());
 }
 

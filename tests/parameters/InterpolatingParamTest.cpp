@@ -130,6 +130,11 @@ TEST_F(InterpolatingParamTest, HasOneIdentityThroughBothItsFaces)
     EXPECT_EQ(owner.xmlIdent(), owned.xmlIdent());
 }
 
+TEST_F(InterpolatingParamTest, AHostsOwnKindIsDescribedByNothingUnlessItSaysMore)
+{
+    EXPECT_EQ("", newParam<double>("d")->ParameterInterface::description());
+}
+
 TEST_F(InterpolatingParamTest, DescribesEachFrameByTimeAndAddress)
 {
     boost::shared_ptr<InterpolatingParam<double>> const parameter = newParam<double>("d");

@@ -236,6 +236,20 @@ TEST_F(LateParametersTest, AllShownValuesOfAPictureNobodyAskedAreThoseItStartsWi
     EXPECT_EQ(expected, std::vector<double>(std::begin(values), std::end(values)));
 }
 
+TEST_F(LateParametersTest, AllShownValuesFollowWhatIsAnimatedAndLeaveTheRest)
+{
+    double values[VisualMedia::k_numShownValues];
+    // Media time 505 of 1000.
+    picture->translation()->at(0)->addKeyFrame(1000, 10.0);
+    picture->shownValuesAtTime(5, values);
+    EXPECT_EQ(1.0, values[8]);
+    EXPECT_DOUBLE_EQ(5.05, values[9]);
+    picture->opacity()->addKeyFrame(1000, 0.0);
+    picture->shownValuesAtTime(5, values);
+    EXPECT_DOUBLE_EQ(0.495, values[8]);
+    EXPECT_DOUBLE_EQ(5.05, values[9]);
+}
+
 TEST_F(LateParametersTest, NothingDiffersBetweenTimesOfAPictureNobodyAsked)
 {
     EXPECT_FALSE(ParametricTemporalDifferentiater::timesDiffer(picture, 0, 10));

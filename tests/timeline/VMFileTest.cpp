@@ -139,6 +139,7 @@ TEST_F(VMFileTest, ItsScreenMetaDataIsEmptyAtFirst)
     EXPECT_EQ(2, made->numAttributes());
     EXPECT_FALSE(made->screenMetaData()->value());
     EXPECT_EQ(made->screenMetaData(), boost::shared_ptr<VMFile const>(made)->screenMetaData());
+    EXPECT_FALSE(sharedClone(made)->screenMetaData()->value());
 }
 
 TEST_F(VMFileTest, GrabbingAFrameChangesNothing)
