@@ -77,9 +77,10 @@ void VisualMedia::shownValuesAtTime(double time, double* values) const
 
 void VisualMedia::setupSharedClone(boost::shared_ptr<Media> const& clone) const
 {
-    if (boost::shared_ptr<VisualMedia> const media =
-            boost::dynamic_pointer_cast<VisualMedia>(clone))
-        media->aimEdgeFunctionsAt(media);
+    if (hasEdgeFunctions()) {
+        if (auto const media = boost::dynamic_pointer_cast<VisualMedia>(clone))
+            media->aimEdgeFunctionsAt(media);
+    }
     MediaImpl::setupSharedClone(clone);
 }
 
