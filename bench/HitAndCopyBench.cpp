@@ -4,7 +4,7 @@
 #include "support/BenchProject.h"
 #include "support/Workload.h"
 
-#include "clipbin/ClipBoard.h"
+#include "clipbin/Clipping.h"
 #include "commands/CopyRangeClippingCmd.h"
 #include "commands/PutClippingCmd.h"
 #include "datatypes/GraphicsUtil.h"
@@ -128,8 +128,14 @@ void copyAndPaste(benchmark::State& state)
                                                        Range<long long>(0, end), "copy");
         copy->addTrack(project.pictures());
         project.execute(copy);
-        project.execute(PutClippingCmd::create(copy->clipping(), end));
+        auto const paste = PutClippingCmd::create(copy->clipping(), end);
+        paste->addTrackMap<AbstractVisualTrack>(
+            copy->clipping()->timeline()->visualMixer()->trackAtIndex(0),
+            project.visualMixer()->trackAtIndex(0));
+        project.execute(paste);
         state.PauseTiming();
+        if (project.pictures()->numMedias() != 2 * state.range(0))
+            state.SkipWithError("not pasted");
         project.project()->undo();
         project.project()->undo();
         state.ResumeTiming();

@@ -29,7 +29,10 @@ void IdentManager::newIdents(unsigned int* idents, std::size_t count)
     std::lock_guard<std::mutex> const guard(m_mutex);
     std::size_t const reused = std::min(count, m_retiredIdents.size());
     makeRoomFor(count - reused);
-    std::copy_n(m_retiredIdents.rbegin(), reused, idents);
+    unsigned int const* const newest = m_retiredIdents.data() + m_retiredIdents.size();
+    for (std::size_t i = 0; i < reused; ++i) {
+        idents[i] = *(newest - 1 - i);
+    }
     m_retiredIdents.resize(m_retiredIdents.size() - reused);
     std::iota(idents + reused, idents + count, m_nextIdent);
     m_nextIdent += static_cast<unsigned int>(count - reused);
