@@ -38,8 +38,8 @@ protected:
     }
 };
 
-::testing::AssertionResult shows(Media const& media, Track const& track, Source const& source,
-                                 double scalar)
+::testing::AssertionResult shows(Media const& media, TrackRange const& track,
+                                 SourceRange const& source, double scalar)
 {
     if (media.trackRange() == track && media.mediaRange() == source && media.scalar() == scalar)
         return ::testing::AssertionSuccess();
@@ -663,8 +663,8 @@ TEST_F(MediaTimingTest, AStaticEditorWorksWithoutASum)
 {
     boost::shared_ptr<Clip> const made = clip(0, 100);
     StaticEditor editor(made.get(), nullptr);
-    Track track(5, 100);
-    Source source(30, 100);
+    TrackRange track(5, 100);
+    SourceRange source(30, 100);
     editor.trimStart(10, track, source);
     EXPECT_EQ(TrackRange(15, 90), track);
     EXPECT_EQ(SourceRange(30, 100), source);
