@@ -4,14 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace tarn {
 namespace {
 
 using test::isNear;
+using test::k_pi;
 
-double const k_pi = std::acos(-1.0);
 double const k_zero[3] = {0, 0, 0};
 double const k_one[3] = {1, 1, 1};
 Rect<int> const k_viewport(10, 20, 100, 50);
@@ -71,6 +69,27 @@ TEST(GraphicsUtilTest, RotatesBeforeItShears)
     TransformMatrix const m =
         GraphicsUtil::calcTransformFromComponents(k_one, k_zero, rotation, shear, k_zero);
     EXPECT_TRUE(isNear(m * Point(1, 0, 0), Point(1, 1, 0)));
+}
+
+TEST(GraphicsUtilTest, IsTheProductOfSevenMatricesToTheLastBit)
+{
+    double const scale[3] = {1.7, -0.3, 1e-5};
+    double const translation[3] = {-123.456, 1e7, 0.1};
+    double const rotation[3] = {0.3, -2.9, 11.1};
+    double const shear[2] = {0.7, -0.2};
+    double const anchor[3] = {640.5, -0.001, 3};
+    for (double const part : {0.0, 1.0, -0.37}) {
+        double const turned[3] = {part * rotation[0], rotation[1], part * rotation[2]};
+        TransformMatrix product = TransformMatrix::translate(-123.456, 1e7, 0.1);
+        product.append(TransformMatrix::shear(0.7, -0.2));
+        product.append(TransformMatrix::rotateAroundX(part * 0.3));
+        product.append(TransformMatrix::rotateAroundY(-2.9));
+        product.append(TransformMatrix::rotateAroundZ(part * 11.1));
+        product.append(TransformMatrix::scale(1.7, -0.3, 1e-5));
+        product.append(TransformMatrix::translate(-640.5, 0.001, -3));
+        EXPECT_EQ(product, GraphicsUtil::calcTransformFromComponents(scale, translation, turned,
+                                                                     shear, anchor));
+    }
 }
 
 TEST(GraphicsUtilTest, ProjectsTheCentreToTheMiddleOfTheViewport)

@@ -51,7 +51,7 @@ int lowestDescriptor()
     return descriptor;
 }
 
-std::string contentOf(int file)
+std::string readBack(int file)
 {
     struct stat status = {};
     fstat(file, &status);
@@ -157,7 +157,7 @@ void Watch::end()
     m_networkCalls = s_networkCalls;
     m_lowestAfter = lowestDescriptor();
     flushOutputs();
-    m_printed = contentOf(m_output);
+    m_printed = readBack(m_output);
     if (!m_printed.empty() && ftruncate(m_output, 0) == 0) {
         lseek(m_output, 0, SEEK_SET);
     }
