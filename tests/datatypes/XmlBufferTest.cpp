@@ -195,29 +195,31 @@ TEST(XmlBufferTest, ATextThatDoesNotFitBehindAnotherArrivesWhole)
 {
     std::string const first(8000, 'a');
     std::string const second(500, 'b');
-    Element const element([&](XMLable::Options& options) { *options.stream << first << second; });
-    EXPECT_EQ(element.opening() + first + second + "</E>\n", xmlOf(element));
+    ToldElement const element(
+        [&](XMLable::Options& options) { *options.stream << first << second; });
+    EXPECT_EQ(element.opening() + first + second + "</E>\n", textOf(element));
 }
 
 TEST(XmlBufferTest, ASingleCharacterBehindAFullBufferArrives)
 {
-    Element const element([](XMLable::Options& options) {
+    ToldElement const element([](XMLable::Options& options) {
         for (int i = 0; i < 9000; ++i)
             options.stream->put('a');
     });
-    EXPECT_EQ(element.opening() + std::string(9000, 'a') + "</E>\n", xmlOf(element));
+    EXPECT_EQ(element.opening() + std::string(9000, 'a') + "</E>\n", textOf(element));
 }
 
 TEST(XmlBufferTest, ManyLevelsAreIndentedInFull)
 {
-    Element const element([](XMLable::Options& options) { XmlText(options).indent(100) << "|\n"; });
-    EXPECT_EQ(element.opening() + std::string(100, ' ') + "|\n</E>\n", xmlOf(element));
+    ToldElement const element(
+        [](XMLable::Options& options) { XmlText(options).indent(100) << "|\n"; });
+    EXPECT_EQ(element.opening() + std::string(100, ' ') + "|\n</E>\n", textOf(element));
 }
 
 TEST(XmlBufferTest, AFullTargetIsFoundOutByAFlush)
 {
     bool isBad = false;
-    Element const element([&isBad](XMLable::Options& options) {
+    ToldElement const element([&isBad](XMLable::Options& options) {
         *options.stream << std::flush;
         isBad = options.stream->bad();
     });
@@ -230,7 +232,7 @@ TEST(XmlBufferTest, AFullTargetIsFoundOutByAFlush)
 TEST(XmlBufferTest, AFullTargetIsFoundOutByALongText)
 {
     bool isBad = false;
-    Element const element([&isBad](XMLable::Options& options) {
+    ToldElement const element([&isBad](XMLable::Options& options) {
         *options.stream << std::string(10000, 'a');
         isBad = options.stream->bad();
     });
@@ -245,7 +247,7 @@ TEST(XmlBufferTest, AFullTargetIsFoundOutByTheCharacterBehindAFullBuffer)
 {
     bool wasBad = true;
     bool isBad = false;
-    Element const element([&](XMLable::Options& options) {
+    ToldElement const element([&](XMLable::Options& options) {
         for (int i = 0; i < 8000; ++i)
             options.stream->put('a');
         wasBad = options.stream->bad();
@@ -262,7 +264,7 @@ TEST(XmlBufferTest, AFullTargetIsFoundOutByTheCharacterBehindAFullBuffer)
 
 TEST(XmlBufferTest, WhatAnElementThrowsPassesThoughTheStreamWasToldToThrowToo)
 {
-    Element const element([](XMLable::Options& options) {
+    ToldElement const element([](XMLable::Options& options) {
         options.stream->exceptions(std::ios_base::badbit);
         throw std::runtime_error("class");
     });
@@ -275,7 +277,7 @@ TEST(XmlBufferTest, WhatAnElementThrowsPassesThoughTheStreamWasToldToThrowToo)
 TEST(XmlBufferTest, AStreamWithoutABufferSwallowsAll)
 {
     bool wasAsked = false;
-    Element const element([&wasAsked](XMLable::Options& options) {
+    ToldElement const element([&wasAsked](XMLable::Options& options) {
         wasAsked = true;
         XmlText(options) << "body";
     });
