@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -321,8 +322,8 @@ TEST(NotifyDelayTest, ADelayThatAnObserverLeavesOpenHoldsBackTheRest)
 {
     Subject a;
     Subject b;
-    std::unique_ptr<NotifyDelay> left;
-    CountingObserver ofA([&left] { left = std::make_unique<NotifyDelay>(); });
+    std::optional<NotifyDelay> left;
+    CountingObserver ofA([&left] { left.emplace(); });
     CountingObserver ofB;
     a.attach(&ofA);
     b.attach(&ofB);
