@@ -170,7 +170,7 @@ void Watch::end()
 
 void limitMemory()
 {
-#ifndef __SANITIZE_ADDRESS__
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
     rlim_t const twoGigabytes = rlim_t(2) << 30;
     rlimit const limit{twoGigabytes, twoGigabytes};
     if (setrlimit(RLIMIT_AS, &limit) != 0) {
