@@ -10,6 +10,7 @@
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -165,6 +166,17 @@ void Watch::end()
     dup2(m_savedError, STDERR_FILENO);
     close(m_savedOut);
     close(m_savedError);
+}
+
+void limitMemory()
+{
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    rlim_t const twoGigabytes = rlim_t(2) << 30;
+    rlimit const limit{twoGigabytes, twoGigabytes};
+    if (setrlimit(RLIMIT_AS, &limit) != 0) {
+        throw std::runtime_error("the memory cannot be limited");
+    }
+#endif
 }
 
 }  // namespace test
