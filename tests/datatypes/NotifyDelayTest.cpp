@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -27,6 +26,12 @@ public:
 
     mutable Observer* m_detached = nullptr;
     mutable int m_notified = 0;
+};
+
+/// A delay that lives for as long as somebody wants.
+struct Opened
+{
+    NotifyDelay delay;
 };
 
 void notifyBothUnderADelay(Subject const& first, Subject const& second)
@@ -322,8 +327,8 @@ TEST(NotifyDelayTest, ADelayThatAnObserverLeavesOpenHoldsBackTheRest)
 {
     Subject a;
     Subject b;
-    std::optional<NotifyDelay> left;
-    CountingObserver ofA([&left] { left.emplace(); });
+    std::unique_ptr<Opened> left;
+    CountingObserver ofA([&left] { left = std::make_unique<Opened>(); });
     CountingObserver ofB;
     a.attach(&ofA);
     b.attach(&ofB);
