@@ -282,10 +282,24 @@ TEST_F(LateParametersTest, ACopyTakesOverWhatWasChanged)
     EXPECT_EQ(0, copy->shear()->at(0)->interpolaterParam()->numKeyFrames());
 }
 
+TEST_F(LateParametersTest, ACopyHasTheKeyFramesNobodyHasReadYet)
+{
+    picture->opacity()->addKeyFrame(20, 0.5);
+    picture->shear()->at(1)->addKeyFrame(20, 3.0);
+    picture->scale()->at(0)->removeKeyFrame(0);
+    boost::shared_ptr<VisualMedia> const copy = sharedClone(picture);
+    EXPECT_EQ(2, copy->opacity()->numKeyFrames());
+    EXPECT_EQ(2, copy->shear()->at(1)->numKeyFrames());
+    EXPECT_EQ(0, copy->scale()->at(0)->numKeyFrames());
+}
+
 TEST_F(LateParametersTest, AMovedKeyFrameIsCopied)
 {
+    picture->opacity()->moveKeyFrame(0, 20);
     picture->anchor()->at(0)->moveKeyFrame(0, 20);
-    EXPECT_TRUE(sharedClone(picture)->anchor()->at(0)->hasKeyFrameAtTime(20));
+    boost::shared_ptr<VisualMedia> const copy = sharedClone(picture);
+    EXPECT_TRUE(copy->opacity()->hasKeyFrameAtTime(20));
+    EXPECT_TRUE(copy->anchor()->at(0)->hasKeyFrameAtTime(20));
 }
 
 TEST_F(LateParametersTest, UndoGivesBackTheXmlOfAPictureNobodyAsked)
