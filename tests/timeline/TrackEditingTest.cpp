@@ -684,6 +684,25 @@ TEST_F(TrackEditingTest, RelocatingOverwritesWhatIsThere)
     EXPECT_EQ(media("V1.a"), track("V1")->medias().at(20));
 }
 
+TEST_F(TrackEditingTest, RelocatingFromAKeyThatIsNotThereMakesTheEntry)
+{
+    given("V1: a.b");
+    // Nothing starts at 5: all others stay, and the media has its entry at 70.
+    track("V1")->relocateMedia(media("V1.a"), 5, 70);
+    EXPECT_EQ(3u, track("V1")->numMedias());
+    EXPECT_EQ(media("V1.a"), track("V1")->medias().at(0));
+    EXPECT_EQ(media("V1.b"), track("V1")->medias().at(20));
+    EXPECT_EQ(media("V1.a"), track("V1")->medias().at(70));
+}
+
+TEST_F(TrackEditingTest, RelocatingTakesTheEntryOfAnotherMediaToo)
+{
+    given("V1: a.b");
+    track("V1")->relocateMedia(media("V1.b"), 0, 70);
+    EXPECT_EQ(0u, track("V1")->medias().count(0));
+    EXPECT_EQ(media("V1.b"), track("V1")->medias().at(70));
+}
+
 TEST_F(TrackEditingTest, CollisionsAreTestedOnTheTracksOfLinkedMediasToo)
 {
     given("A1: aa..b / V1: aa.cc");
