@@ -2,6 +2,7 @@
 
 #include "commands/RequireObjects.h"
 
+#include "commands/AddTimelinesTracksCmd.h"
 #include "commands/CloneAddMediasCmd.h"
 #include "commands/CopyRangeClippingCmd.h"
 #include "commands/CopySelectClippingCmd.h"
@@ -12,7 +13,9 @@
 #include "commands/RemoveSelectMediaCmd.h"
 #include "commands/SplittingRippleMoveCmd.h"
 #include "support/ModelTest.h"
-#include "timeline/Track.h"
+#include "timeline/AbstractVisualTrack.h"
+
+#include <boost/pointer_cast.hpp>
 
 #include <vector>
 
@@ -73,6 +76,19 @@ TEST_F(RequireObjectsTest, AMediaOfASelection)
     EXPECT_TRUE(refusesTheEmptyOne(RemoveSelectMediaCmd::create(timeline(), medias())));
     EXPECT_TRUE(refusesTheEmptyOne(CopySelectClippingCmd::create(timeline(), medias(), "x")));
     EXPECT_TRUE(refusesTheEmptyOne(CutSelectClippingCmd::create(timeline(), medias(), "x")));
+}
+
+TEST_F(RequireObjectsTest, EitherEndOfATrackMap)
+{
+    boost::shared_ptr<Track> const good = track("V1");
+    auto const visual = boost::dynamic_pointer_cast<AbstractVisualTrack>(good);
+    boost::shared_ptr<AbstractVisualTrack const> const none;
+    auto const fromNowhere = AddTimelinesTracksCmd<AbstractVisualTrack>::create(timeline(), 0);
+    fromNowhere->addTrackMap(none, visual);
+    EXPECT_TRUE(refusesTheEmptyOne(fromNowhere));
+    auto const toNowhere = AddTimelinesTracksCmd<AbstractVisualTrack>::create(timeline(), 0);
+    toNowhere->addTrackMap(visual, none);
+    EXPECT_TRUE(refusesTheEmptyOne(toNowhere));
 }
 
 TEST_F(RequireObjectsTest, AMediaToBeCloned)

@@ -79,6 +79,7 @@ TEST_F(LateParametersTest, LookingAtAPictureLeavesItsXmlAsItWas)
 {
     std::string const before = xmlWithIds(*picture);
     lookAtEverything(*picture);
+    boost::dynamic_pointer_cast<VMFile>(picture)->screenMetaData();
     EXPECT_EQ(before, xmlWithIds(*picture));
 }
 
@@ -225,6 +226,37 @@ TEST_F(LateParametersTest, AllShownValuesAreThoseOfTheParametersInOrder)
     expected[9 + 5] = 2.0 * 505 / 1000;
     expected[9 + 8] = expected[9 + 9] = expected[9 + 10] = 1.0;
     EXPECT_EQ(expected, std::vector<double>(std::begin(values), std::end(values)));
+}
+
+TEST_F(LateParametersTest, AllShownValuesOfAPictureNobodyAskedAreWritten)
+{
+    std::vector<double> expected(VisualMedia::k_numShownValues, 0.0);
+    expected[8] = 1.0;
+    expected[9 + 8] = expected[9 + 9] = expected[9 + 10] = 1.0;
+    std::vector<double> values(VisualMedia::k_numShownValues, -77.0);
+    picture->shownValuesAtTime(5, values.data());
+    EXPECT_EQ(expected, values);
+}
+
+TEST_F(LateParametersTest, AllShownValuesOfAnUnanimatedPictureAreWritten)
+{
+    std::vector<double> expected(VisualMedia::k_numShownValues, 0.0);
+    for (int i = 0; i < 4; ++i) {
+        expected[static_cast<std::size_t>(i)] = 1.0 + i;
+        picture->sourceCropParam()->at(i)->changeKeyFrame(0, 1.0 + i);
+        expected[static_cast<std::size_t>(4 + i)] = 5.0 + i;
+        picture->geometryCropParam()->at(i)->changeKeyFrame(0, 5.0 + i);
+    }
+    expected[8] = 0.5;
+    picture->opacity()->changeKeyFrame(0, 0.5);
+    expected[9 + 1] = 20.0;
+    picture->translation()->at(1)->changeKeyFrame(0, 20.0);
+    expected[9 + 7] = 0.25;
+    picture->shear()->at(1)->changeKeyFrame(0, 0.25);
+    expected[9 + 8] = expected[9 + 9] = expected[9 + 10] = 1.0;
+    std::vector<double> values(VisualMedia::k_numShownValues, -77.0);
+    picture->shownValuesAtTime(5, values.data());
+    EXPECT_EQ(expected, values);
 }
 
 TEST_F(LateParametersTest, NothingDiffersBetweenTimesOfAPictureNobodyAsked)

@@ -203,6 +203,14 @@ TEST_F(TrackEditingTest, RemovalWithLinksTakesPartnersOnTheSameTrackAlong)
     EXPECT_FALSE(media("V1.b")->parentTrack().lock());
 }
 
+TEST_F(TrackEditingTest, ADeadLinkBehindLivingOnesIsFoundToo)
+{
+    given("A1: aa / V1: aa / V2: aa");
+    media("V1.a")->link(freshVideo('b', 2));
+    EXPECT_THROW(track("V1")->removeMedia(media("V1.a"), true), TarnMediaLibException);
+    EXPECT_EQ("A1: aa / V1: aa / V2: aa", strip());
+}
+
 TEST_F(TrackEditingTest, ADeadLinkIsFoundBeforeAnythingIsRemoved)
 {
     given("V1: aa");
