@@ -305,6 +305,74 @@ TEST_F(TrackEditingTest, WhenOnlyThePartnerWouldCollideNeitherMoves)
     EXPECT_EQ("A1: aa..b / V1: aa", strip());
 }
 
+class TrackEditingGroupTest : public TrackEditingTest
+{
+protected:
+    /// With one media in the way of a group of three, no member may move or grow by two cells.
+    void expectACollisionFromEveryMember(std::string const& strip)
+    {
+        given(strip);
+        for (char const* const name : {"A1", "A2", "V1"}) {
+            boost::shared_ptr<Media> const member = media(std::string(name) + ".a");
+            EXPECT_THROW(track(name)->move(member, 20, true), CollisionException) << name;
+            EXPECT_THROW(track(name)->trimEnd(member, -20, true), CollisionException) << name;
+            EXPECT_THROW(track(name)->stretch(member, 2.0, true), CollisionException) << name;
+        }
+        EXPECT_EQ(strip, this->strip());
+    }
+
+    /// With a media without length at 30 on one of its tracks, no member may start there.
+    void expectTheStartTaken(std::string const& name)
+    {
+        given("A1: ..aa / A2: ..aa / V1: ..aa");
+        boost::shared_ptr<Media> const dot = freshSound('b', 0);
+        track(name)->addMedia(dot, 30);
+        EXPECT_EQ(ConstMediaList{dot}, hitBy([&] { track("V1")->move(media("V1.a"), 10, true); }));
+        EXPECT_EQ(ConstMediaList{dot},
+                  hitBy([&] { track("V1")->trimStart(media("V1.a"), 10, true); }));
+        EXPECT_EQ(dot, track(name)->medias().at(30));
+        EXPECT_EQ(Range<long long>(20, 20), range("V1.a"));
+    }
+};
+
+TEST_F(TrackEditingGroupTest, CollidesOnItsFirstTrack)
+{
+    expectACollisionFromEveryMember("A1: aa.b / A2: aa / V1: aa");
+}
+
+TEST_F(TrackEditingGroupTest, CollidesOnItsSecondTrack)
+{
+    expectACollisionFromEveryMember("A1: aa / A2: aa.b / V1: aa");
+}
+
+TEST_F(TrackEditingGroupTest, CollidesOnItsThirdTrack)
+{
+    expectACollisionFromEveryMember("A1: aa / A2: aa / V1: aa.b");
+}
+
+TEST_F(TrackEditingGroupTest, FindsAStartTakenOnItsFirstTrack)
+{
+    expectTheStartTaken("A1");
+}
+
+TEST_F(TrackEditingGroupTest, FindsAStartTakenOnItsSecondTrack)
+{
+    expectTheStartTaken("A2");
+}
+
+// A media without length lies in nobody's way, but its entry would be lost.
+TEST_F(TrackEditingTest, TheStartOfAMediaWithoutLengthIsTaken)
+{
+    given("V1: ..aa");
+    boost::shared_ptr<Media> const dot = freshVideo('b', 0);
+    track("V1")->addMedia(dot, 30);
+    EXPECT_EQ(ConstMediaList{dot}, hitBy([&] { track("V1")->move(media("V1.a"), 10, false); }));
+    EXPECT_EQ(ConstMediaList{dot},
+              hitBy([&] { track("V1")->trimStart(media("V1.a"), 10, false); }));
+    EXPECT_EQ(dot, track("V1")->medias().at(30));
+    EXPECT_EQ(Range<long long>(20, 20), range("V1.a"));
+}
+
 TEST_F(TrackEditingTest, ACollisionNamesTheMediasOfBothTracks)
 {
     given("A1: aa..b / V1: aa.cc");
