@@ -4,9 +4,11 @@
 #include "support/BenchProject.h"
 #include "support/Workload.h"
 
-#include "clipbin/ClipBoard.h"
+#include "clipbin/Clipping.h"
 #include "commands/CopyRangeClippingCmd.h"
 #include "commands/PutClippingCmd.h"
+#include "datatypes/GraphicsUtil.h"
+#include "datatypes/VectorUtil.h"
 #include "project/Project.h"
 #include "timeline/AbstractVisualTrack.h"
 #include "timeline/HitTester.h"
@@ -15,7 +17,9 @@
 #include "timeline/VMFile.h"
 #include "timeline/VisualMixer.h"
 
-#include <memory>
+#include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace tarn {
 namespace bench {
@@ -39,18 +43,38 @@ void hitTest(benchmark::State& state)
     countOperations(state, 1);
 }
 
-/// A search and the inverse of one matrix a track.
+/// A track's and a media's fourteen numbers, in the order of a placement.
+TransformMatrix placement(double const* numbers)
+{
+    return GraphicsUtil::calcTransformFromComponents(numbers + 8, numbers, numbers + 3, numbers + 6,
+                                                     numbers + 11);
+}
+
+/// The sums of a ray against a plane, once a track, on numbers that lie ready.
 void hitTest_limit(benchmark::State& state)
 {
-    BareTrack const track = bareTrack(k_medias, BenchProject::k_length, BenchProject::k_length);
+    std::vector<BareTrack> tracks;
+    for (int i = 0; i < k_tracks; ++i) {
+        tracks.push_back(bareTrack(k_medias, BenchProject::k_length, BenchProject::k_length));
+        for (auto const& entry : tracks.back())
+            std::fill(std::begin(entry.second->values) + 17, std::end(entry.second->values), 1.0);
+    }
     NumberCycle times(k_medias * BenchProject::k_length);
-    TransformMatrix matrix;
+    double const trackNumbers[14] = {0, 0, 0, 0, 0, 0, 0, 0, 1, 1, 1, 0, 0, 0};
+    Point const origin(0, 0, 1000);
     for (auto _ : state) {
-        for (int i = 0; i < k_tracks; ++i) {
-            boost::shared_ptr<BareMedia> const media =
-                std::prev(track.upper_bound(times.next()))->second;
-            matrix.at(0, 3) = static_cast<double>(media->duration);
-            benchmark::DoNotOptimize(matrix.inverse() * Point(1, 2, 3));
+        long long const time = times.next();
+        Point const toThere(-0.3, 0.5, -0.8);
+        for (BareTrack const& track : tracks) {
+            boost::shared_ptr<BareMedia> const media = std::prev(track.upper_bound(time))->second;
+            TransformMatrix matrix = placement(media->values + 9);
+            matrix.prepend(placement(trackNumbers));
+            Quad const plane = matrix * Quad(Rect<double>(0, 0, 640, 480));
+            Point const normal = VectorUtil::computeNormal(plane);
+            benchmark::DoNotOptimize(VectorUtil::dotProduct(normal, toThere));
+            Point const meeting =
+                VectorUtil::intersectionOfRayWithPlane(origin, origin + toThere, plane);
+            benchmark::DoNotOptimize(matrix.inverse() * meeting);
         }
     }
     countOperations(state, 1);
@@ -70,25 +94,28 @@ void cloneTimeline(benchmark::State& state)
     countOperations(state, state.range(0));
 }
 
-void copyBare(benchmark::State& state)
+BarePictures barePictures(std::int64_t n)
 {
-    BareTrack const track =
-        bareTrack(state.range(0), BenchProject::k_length, BenchProject::k_length);
+    auto const project = boost::make_shared<BareIdents>();
+    BarePictures pictures;
+    for (std::int64_t i = 0; i < n; ++i) {
+        auto const picture = boost::make_shared<BarePicture>(project);
+        picture->place.start = i * BenchProject::k_length;
+        pictures.emplace_hint(pictures.end(), picture->place.start, picture);
+    }
+    return pictures;
+}
+
+void cloneTimeline_limit(benchmark::State& state)
+{
+    BarePictures const pictures = barePictures(state.range(0));
     for (auto _ : state) {
-        BareTrack copy;
-        for (auto const& entry : track)
-            copy.emplace_hint(copy.end(), entry.first,
-                              boost::make_shared<BareMedia>(*entry.second));
+        BarePictures copy = copyOf(pictures);
         state.PauseTiming();
         copy.clear();
         state.ResumeTiming();
     }
     countOperations(state, state.range(0));
-}
-
-void cloneTimeline_limit(benchmark::State& state)
-{
-    copyBare(state);
 }
 
 void copyAndPaste(benchmark::State& state)
@@ -101,8 +128,14 @@ void copyAndPaste(benchmark::State& state)
                                                        Range<long long>(0, end), "copy");
         copy->addTrack(project.pictures());
         project.execute(copy);
-        project.execute(PutClippingCmd::create(copy->clipping(), end));
+        auto const paste = PutClippingCmd::create(copy->clipping(), end);
+        paste->addTrackMap<AbstractVisualTrack>(
+            copy->clipping()->timeline()->visualMixer()->trackAtIndex(0),
+            project.visualMixer()->trackAtIndex(0));
+        project.execute(paste);
         state.PauseTiming();
+        if (project.pictures()->numMedias() != 2 * state.range(0))
+            state.SkipWithError("not pasted");
         project.project()->undo();
         project.project()->undo();
         state.ResumeTiming();
@@ -110,21 +143,17 @@ void copyAndPaste(benchmark::State& state)
     countOperations(state, state.range(0));
 }
 
-/// A media is copied twice: onto the board and from there.
+/// A picture is copied twice: onto the board and from there.
 void copyAndPaste_limit(benchmark::State& state)
 {
-    BareTrack const track =
-        bareTrack(state.range(0), BenchProject::k_length, BenchProject::k_length);
+    BarePictures const pictures = barePictures(state.range(0));
     for (auto _ : state) {
-        BareTrack board;
-        for (auto const& entry : track)
-            board.emplace_hint(board.end(), entry.first,
-                               boost::make_shared<BareMedia>(*entry.second));
-        BareTrack pasted;
-        for (auto const& entry : board)
-            pasted.emplace_hint(pasted.end(), entry.first,
-                                boost::make_shared<BareMedia>(*entry.second));
-        benchmark::DoNotOptimize(pasted);
+        BarePictures board = copyOf(pictures);
+        BarePictures pasted = copyOf(board);
+        state.PauseTiming();
+        pasted.clear();
+        board.clear();
+        state.ResumeTiming();
     }
     countOperations(state, state.range(0));
 }

@@ -7,6 +7,7 @@
 #include "timeline/Media.h"
 #include "timeline/Track.h"
 
+#include <mutex>
 #include <utility>
 
 namespace tarn {
@@ -24,13 +25,15 @@ void mediaAtTime(benchmark::State& state)
     countOperations(state, 1);
 }
 
-/// One search in a map, and two owners.
+/// One search in a map under a mutex, and two owners.
 void mediaAtTime_limit(benchmark::State& state)
 {
     BareTrack const track =
         bareTrack(state.range(0), BenchProject::k_length, BenchProject::k_length);
+    std::mutex mutex;
     NumberCycle times(state.range(0) * BenchProject::k_length);
     for (auto _ : state) {
+        std::lock_guard<std::mutex> const guard(mutex);
         auto const entry = std::prev(track.upper_bound(times.next()));
         benchmark::DoNotOptimize(std::make_pair(entry->second, entry->second));
     }

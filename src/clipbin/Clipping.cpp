@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <limits>
 #include <sstream>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -84,16 +85,16 @@ void genTrackPositions(Timeline const& timeline, MediaCloneMap const& clones,
     genTrackPositions(timeline, tracks, positions);
 }
 
-bool mediaSorter(boost::shared_ptr<Media> const& a, boost::shared_ptr<Media> const& b)
-{
-    return a->trackRange().start < b->trackRange().start;
-}
-
 void sortClonesByTrackStart(MediaCloneMap const& map, Clones* clones)
 {
+    using StartAndClone = std::pair<long long, boost::shared_ptr<Media>>;
+    std::vector<StartAndClone> sorted;
     for (MediaCloneMap::value_type const& entry : map)
-        clones->push_back(entry.second);
-    std::sort(clones->begin(), clones->end(), mediaSorter);
+        sorted.emplace_back(entry.second->trackRange().start, entry.second);
+    std::sort(sorted.begin(), sorted.end(),
+              [](StartAndClone const& a, StartAndClone const& b) { return a.first < b.first; });
+    for (StartAndClone& entry : sorted)
+        clones->push_back(std::move(entry.second));
 }
 
 long long calcMinStart(Clones const& clones)

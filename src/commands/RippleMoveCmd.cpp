@@ -9,6 +9,7 @@
 #include "timeline/Track.h"
 
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
@@ -36,9 +37,9 @@ void RippleMoveCmd::executeCommands(CommandHandler const*)
         return;
 
     StackOrQueue<boost::shared_ptr<Media const>> toMove(m_offset > 0 ? StackOrder : QueueOrder);
-    for (boost::shared_ptr<Media const> const& media :
+    for (boost::shared_ptr<Media const>& media :
          RippleUtil::mediasFrom(m_track, m_firstMedia->trackRange().start))
-        toMove.push(media);
+        toMove.push(std::move(media));
 
     while (!toMove.empty())
         MultiCommand::execute(MoveCmd::create(m_track, toMove.pop(), m_offset));

@@ -21,7 +21,7 @@ class PushFunc
 public:
     virtual ~PushFunc() = default;
     /// Puts an element where it belongs.
-    virtual void push(std::deque<T>& elements, T const& element) const = 0;
+    virtual void push(std::deque<T>& elements, T element) const = 0;
 };
 
 /// Last in, first out.
@@ -29,9 +29,9 @@ template <class T>
 class StackPush : public PushFunc<T>
 {
 public:
-    void push(std::deque<T>& elements, T const& element) const override
+    void push(std::deque<T>& elements, T element) const override
     {
-        elements.push_front(element);
+        elements.push_front(std::move(element));
     }
 };
 
@@ -40,9 +40,9 @@ template <class T>
 class QueuePush : public PushFunc<T>
 {
 public:
-    void push(std::deque<T>& elements, T const& element) const override
+    void push(std::deque<T>& elements, T element) const override
     {
-        elements.push_back(element);
+        elements.push_back(std::move(element));
     }
 };
 
@@ -54,7 +54,7 @@ public:
     explicit StackOrQueue(StackOrQueueEnum order) : m_pushFunc(pushFuncFor(order)) {}
 
     /// Adds an element, to come out last or next.
-    void push(T const& element) { m_pushFunc->push(m_elements, element); }
+    void push(T element) { m_pushFunc->push(m_elements, std::move(element)); }
     /// Takes the next element out; there must be one.
     T pop()
     {

@@ -4,11 +4,28 @@
 #include "datatypes/Rect.h"
 #include "datatypes/TransformMatrix.h"
 
+#include <cmath>
+
 namespace tarn {
 
 namespace GraphicsUtil {
 
 namespace {
+
+/// Around the axis that is neither of these two, from the first of them to the second.
+void appendRotation(TransformMatrix& matrix, int from, int to, double angle)
+{
+    if (angle == 0)
+        return;
+    double const c = std::cos(angle);
+    double const s = std::sin(angle);
+    for (int row = 0; row < 3; ++row) {
+        double const x = matrix.at(row, from);
+        double const y = matrix.at(row, to);
+        matrix.at(row, from) = x * c + y * s;
+        matrix.at(row, to) = x * -s + y * c;
+    }
+}
 
 TransformMatrix modelThenProjection(TransformMatrix const& model, TransformMatrix const& projection)
 {
@@ -19,18 +36,21 @@ TransformMatrix modelThenProjection(TransformMatrix const& model, TransformMatri
 
 }  // namespace
 
+// The product without its terms that are zero: a renderer and each hit test want one a picture.
 TransformMatrix calcTransformFromComponents(double const* scale, double const* translation,
                                             double const* rotation, double const* shear,
                                             double const* anchor)
 {
-    TransformMatrix result;
-    result.append(TransformMatrix::translate(translation[0], translation[1], translation[2]));
-    result.append(TransformMatrix::shear(shear[0], shear[1]));
-    result.append(TransformMatrix::rotateAroundX(rotation[0]));
-    result.append(TransformMatrix::rotateAroundY(rotation[1]));
-    result.append(TransformMatrix::rotateAroundZ(rotation[2]));
-    result.append(TransformMatrix::scale(scale[0], scale[1], scale[2]));
-    result.append(TransformMatrix::translate(-anchor[0], -anchor[1], -anchor[2]));
+    TransformMatrix result = TransformMatrix::shear(shear[0], shear[1]);
+    appendRotation(result, 1, 2, rotation[0]);
+    appendRotation(result, 2, 0, rotation[1]);
+    appendRotation(result, 0, 1, rotation[2]);
+    for (int row = 0; row < 3; ++row) {
+        for (int column = 0; column < 3; ++column)
+            result.at(row, column) *= scale[column];
+        result.at(row, 3) = result.at(row, 0) * -anchor[0] + result.at(row, 1) * -anchor[1] +
+                            result.at(row, 2) * -anchor[2] + translation[row];
+    }
     return result;
 }
 

@@ -1,6 +1,8 @@
 #include "datatypes/IdentManager.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <numeric>
 
 namespace tarn {
 
@@ -13,39 +15,36 @@ IdentManager* IdentManager::instance()
 unsigned int IdentManager::newIdent()
 {
     std::lock_guard<std::mutex> const guard(m_mutex);
-    return draw();
-}
-
-void IdentManager::newIdents(unsigned int* idents, std::size_t count)
-{
-    std::lock_guard<std::mutex> const guard(m_mutex);
-    std::size_t drawn = 0;
-    try {
-        for (; drawn < count; ++drawn) {
-            idents[drawn] = draw();
-        }
-    } catch (...) {
-        while (drawn > 0) {
-            m_retiredIdents.push_back(idents[--drawn]);
-        }
-        throw;
-    }
-}
-
-/// Under the mutex.
-unsigned int IdentManager::draw()
-{
     if (m_retiredIdents.empty()) {
-        // Room for every ident given out, for destructors retire them and must not fail.
-        std::size_t const needed = std::size_t(m_nextIdent) + 1;
-        if (m_retiredIdents.capacity() < needed) {
-            m_retiredIdents.reserve(2 * needed);
-        }
+        makeRoomFor(1);
         return m_nextIdent++;
     }
     unsigned int const ident = m_retiredIdents.back();
     m_retiredIdents.pop_back();
     return ident;
+}
+
+void IdentManager::newIdents(unsigned int* idents, std::size_t count)
+{
+    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::size_t const reused = std::min(count, m_retiredIdents.size());
+    makeRoomFor(count - reused);
+    unsigned int const* const newest = m_retiredIdents.data() + m_retiredIdents.size();
+    for (std::size_t i = 0; i < reused; ++i) {
+        idents[i] = *(newest - 1 - i);
+    }
+    m_retiredIdents.resize(m_retiredIdents.size() - reused);
+    std::iota(idents + reused, idents + count, m_nextIdent);
+    m_nextIdent += static_cast<unsigned int>(count - reused);
+}
+
+/// Room for every ident given out, for destructors retire them and must not fail. Under the mutex.
+void IdentManager::makeRoomFor(std::size_t fresh)
+{
+    std::size_t const needed = m_nextIdent + fresh;
+    if (m_retiredIdents.capacity() < needed) {
+        m_retiredIdents.reserve(2 * needed);
+    }
 }
 
 void IdentManager::retireIdent(unsigned int ident)

@@ -38,7 +38,7 @@ private:
     IdentManager() = default;
     ~IdentManager() = default;
 
-    unsigned int draw();
+    void makeRoomFor(std::size_t fresh);
 
     unsigned int m_nextIdent = 0;
     std::vector<unsigned int> m_retiredIdents;

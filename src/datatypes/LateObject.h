@@ -4,6 +4,7 @@
 #include "datatypes/MadeOnFirstUse.h"
 #include "datatypes/ReservedIdent.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -21,7 +22,16 @@ class LateObject
 public:
     using Idents = std::array<unsigned int, N>;
 
-    LateObject() { IdentManager::instance()->newIdents(m_idents.data(), N); }
+    static std::size_t constexpr k_numIdents = N;
+
+    /// Takes N idents over, or draws them if there are none.
+    explicit LateObject(unsigned int const* idents = nullptr)
+    {
+        if (idents)
+            std::copy_n(idents, N, m_idents.data());
+        else
+            IdentManager::instance()->newIdents(m_idents.data(), N);
+    }
     /// Takes N idents over.
     explicit LateObject(ReservedIdent* idents)
     {

@@ -20,6 +20,8 @@ void performClonedMediaLink(boost::shared_ptr<Media> const& clone,
 
 void linkClone(Media const& original, boost::shared_ptr<Media> const& clone, CloneMap const& clones)
 {
+    if (original.isUnlinked())
+        return;
     ConstIterator<Media::LinkList> const end = original.linkEnd();
     for (ConstIterator<Media::LinkList> it = original.linkBegin(); it != end; ++it) {
         boost::shared_ptr<Media const> const linked = it->lock();

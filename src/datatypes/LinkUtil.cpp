@@ -26,6 +26,8 @@ boost::shared_ptr<Media const> lockLink(boost::weak_ptr<Media> const& link)
 
 void addLinksAsExemptions(Media const& media, MediaSet* exemptions)
 {
+    if (media.isUnlinked())
+        return;
     ConstIterator<Media::LinkList> const end = media.linkEnd();
     for (ConstIterator<Media::LinkList> it = media.linkBegin(); it != end; ++it)
         exemptions->insert(lockLink(*it));
@@ -47,6 +49,8 @@ bool tracksHaveLinksAtTime(long long time, Track const& first, Track const& seco
 
 void addLinkedTracks(Media const& media, TrackSet* tracks)
 {
+    if (media.isUnlinked())
+        return;
     ConstIterator<Media::LinkList> const end = media.linkEnd();
     for (ConstIterator<Media::LinkList> it = media.linkBegin(); it != end; ++it) {
         boost::shared_ptr<Track const> const track = lockLink(*it)->parentTrack().lock();

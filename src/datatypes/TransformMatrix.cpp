@@ -1,7 +1,9 @@
 #include "datatypes/TransformMatrix.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <istream>
 #include <limits>
 #include <ostream>
@@ -12,25 +14,46 @@ namespace tarn {
 
 namespace {
 
+/// Row by row, each element summed up from the left, so that a compiler can do columns side by
+/// side.
 TransformMatrix product(TransformMatrix const& a, TransformMatrix const& b)
 {
-    TransformMatrix result;
+    double elements[16];
     for (int row = 0; row < 4; ++row) {
+        double const first = a.at(row, 0);
+        double const second = a.at(row, 1);
+        double const third = a.at(row, 2);
+        double const fourth = a.at(row, 3);
         for (int column = 0; column < 4; ++column) {
-            result.at(row, column) =
-                a.at(row, 0) * b.at(0, column) + a.at(row, 1) * b.at(1, column) +
-                a.at(row, 2) * b.at(2, column) + a.at(row, 3) * b.at(3, column);
+            elements[row * 4 + column] = first * b.at(0, column) + second * b.at(1, column) +
+                                         third * b.at(2, column) + fourth * b.at(3, column);
         }
     }
-    return result;
+    return TransformMatrix(elements);
+}
+
+/// Whether products of four such numbers are far from overflow and underflow.
+bool isOfCommonSize(double number)
+{
+    double const size = std::fabs(number);
+    return size == 0 || (size > 1e-60 && size < 1e60);
+}
+
+/// A row of a matrix, and beside it the same row of its inverse in the making.
+using RowPair = std::array<double, 8>;
+
+void addTo(RowPair& row, RowPair const& added, double factor)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        row[i] += factor * added[i];
 }
 
 /// Of the row with the largest element in `column`, at or below the diagonal.
-int pivotRow(TransformMatrix const& matrix, int column)
+std::size_t pivotRow(RowPair const* rows, std::size_t column)
 {
-    int best = column;
-    for (int row = column + 1; row < 4; ++row) {
-        if (std::fabs(matrix.at(row, column)) > std::fabs(matrix.at(best, column)))
+    std::size_t best = column;
+    for (std::size_t row = column + 1; row < 4; ++row) {
+        if (std::fabs(rows[row][column]) > std::fabs(rows[best][column]))
             best = row;
     }
     return best;
@@ -138,6 +161,8 @@ double TransformMatrix::determinant() const
 
 bool TransformMatrix::isSingular() const
 {
+    if (std::all_of(m_elements, m_elements + 16, isOfCommonSize))
+        return determinant() == 0;
     // Rows are brought near 1 by powers of two, which is exact, so that the determinant of a very
     // small scale does not underflow to zero.
     TransformMatrix scaled(*this);
@@ -159,25 +184,27 @@ TransformMatrix TransformMatrix::inverse() const
         TransformMatrix const zero = TransformMatrix() * 0.0;
         return zero * std::numeric_limits<double>::quiet_NaN();
     }
-    TransformMatrix work(*this);
-    TransformMatrix result;
-    for (int column = 0; column < 4; ++column) {
-        int const pivot = pivotRow(work, column);
-        work.rowOpSwapRow(column, pivot);
-        result.rowOpSwapRow(column, pivot);
-
-        double const divisor = work.at(column, column);
-        work.rowOpMultiply(column, 1.0 / divisor);
-        result.rowOpMultiply(column, 1.0 / divisor);
-
-        for (int row = 0; row < 4; ++row) {
-            if (row == column)
-                continue;
-            double const factor = -work.at(row, column);
-            work.rowOpAddRow(row, column, factor);
-            result.rowOpAddRow(row, column, factor);
+    RowPair rows[4] = {};
+    for (std::size_t row = 0; row < 4; ++row) {
+        std::copy_n(m_elements + row * 4, 4, rows[row].begin());
+        rows[row][4 + row] = 1;
+    }
+    for (std::size_t column = 0; column < 4; ++column) {
+        std::size_t const pivot = pivotRow(rows, column);
+        RowPair scaled = rows[pivot];
+        rows[pivot] = rows[column];
+        double const factor = 1.0 / scaled[column];
+        for (double& element : scaled)
+            element *= factor;
+        rows[column] = scaled;
+        for (std::size_t row = 0; row < 4; ++row) {
+            if (row != column)
+                addTo(rows[row], scaled, -rows[row][column]);
         }
     }
+    TransformMatrix result;
+    for (std::size_t row = 0; row < 4; ++row)
+        std::copy_n(rows[row].begin() + 4, 4, result.m_elements + row * 4);
     return result;
 }
 

@@ -16,6 +16,8 @@ Point normalized(Point vector)
 /// The tangent's absolute value.
 double tangentWithoutSign(double angle)
 {
+    if (angle == 0)
+        return 0;
     double const sine = std::sin(angle);
     double const square = sine * sine;
     return std::sqrt(square / (1 - square));

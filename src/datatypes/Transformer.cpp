@@ -1,6 +1,7 @@
 #include "datatypes/Transformer.h"
 
 #include "datatypes/GraphicsUtil.h"
+#include "datatypes/IdentBatch.h"
 #include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
@@ -17,6 +18,10 @@ int constexpr k_rotation = 3;
 int constexpr k_shear = 6;
 int constexpr k_scale = 8;
 int constexpr k_anchor = 11;
+
+// Of the five vectors.
+std::size_t constexpr k_numIdents =
+    4 * LateVectorParam<3>::k_numIdents + LateVectorParam<2>::k_numIdents;
 
 unsigned int constexpr k_everything = (1u << 14) - 1;
 unsigned int constexpr k_allButTranslation = k_everything & ~(7u << k_translation);
@@ -37,22 +42,37 @@ struct Transformer::Components
 };
 
 Transformer::Transformer(boost::weak_ptr<ThreadSafe const> const& project)
-    : m_project(project)
-    , m_translation("translation", 0)
-    , m_rotation("rotation", 0)
-    , m_shear("shear", 0)
-    , m_scale("scale", 1)
-    , m_anchor("anchor", 0)
+    : Transformer(project, IdentBatch(k_numIdents))
 {}
 
-Transformer::Transformer(Transformer const& other)
-    : m_project(other.m_project.projectMutex())
-    , m_translation(other.m_translation)
-    , m_rotation(other.m_rotation)
-    , m_shear(other.m_shear)
-    , m_scale(other.m_scale)
-    , m_anchor(other.m_anchor)
+Transformer::Transformer(boost::weak_ptr<ThreadSafe const> const& project, IdentBatch idents)
+    : m_project(project)
+    , m_translation("translation", 0, idents.take(m_translation.k_numIdents))
+    , m_rotation("rotation", 0, idents.take(m_rotation.k_numIdents))
+    , m_shear("shear", 0, idents.take(m_shear.k_numIdents))
+    , m_scale("scale", 1, idents.take(m_scale.k_numIdents))
+    , m_anchor("anchor", 0, idents.take(m_anchor.k_numIdents))
 {}
+
+// Copies of parameters that someone has touched draw idents of their own, in their turn.
+Transformer::Transformer(Transformer const& other)
+    : Transformer(other, IdentBatch(other.isUntouched() ? k_numIdents : 0))
+{}
+
+Transformer::Transformer(Transformer const& other, IdentBatch idents)
+    : m_project(other.m_project.projectMutex())
+    , m_translation(other.m_translation, idents.take(m_translation.k_numIdents))
+    , m_rotation(other.m_rotation, idents.take(m_rotation.k_numIdents))
+    , m_shear(other.m_shear, idents.take(m_shear.k_numIdents))
+    , m_scale(other.m_scale, idents.take(m_scale.k_numIdents))
+    , m_anchor(other.m_anchor, idents.take(m_anchor.k_numIdents))
+{}
+
+bool Transformer::isUntouched() const
+{
+    return m_translation.isUntouched() && m_rotation.isUntouched() && m_shear.isUntouched() &&
+           m_scale.isUntouched() && m_anchor.isUntouched();
+}
 
 Transformer::~Transformer() {}
 

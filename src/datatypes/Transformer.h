@@ -11,6 +11,8 @@
 
 namespace tarn {
 
+class IdentBatch;
+
 /// An animated placement in space, mixed into what is seen: mixer, tracks and medias.
 ///
 /// Starts as no placement at all: every component has one key frame, at time 0. Times are in the
@@ -74,6 +76,10 @@ protected:
 
 private:
     struct Components;
+
+    Transformer(boost::weak_ptr<ThreadSafe const> const& project, IdentBatch idents);
+    Transformer(Transformer const& other, IdentBatch idents);
+    bool isUntouched() const;
 
     void load(Parametric const& owner, long long time, unsigned int wanted,
               Components& components) const;

@@ -8,27 +8,23 @@
 
 namespace tarn {
 
-namespace {
-
-boost::shared_ptr<InterpolatingParam<double>> cloneIfTouched(
-    InterpolatingParam<double> const* parameter, double initial)
-{
-    if (!parameter || parameter->isUntouched(initial))
-        return boost::shared_ptr<InterpolatingParam<double>>();
-    return boost::shared_ptr<InterpolatingParam<double>>(parameter->clone());
-}
-
-}  // namespace
-
-LateDoubleParam::LateDoubleParam(char const* name, double initial)
-    : m_name(name), m_initial(initial)
+LateDoubleParam::LateDoubleParam(char const* name, double initial, unsigned int const* idents)
+    : m_name(name), m_initial(initial), m_param(idents)
 {}
 
-LateDoubleParam::LateDoubleParam(LateDoubleParam const& other)
+LateDoubleParam::LateDoubleParam(LateDoubleParam const& other, unsigned int const* idents)
     : m_name(other.m_name)
     , m_initial(other.m_initial)
-    , m_param(cloneIfTouched(other.m_param.ifMade(), other.m_initial))
+    , m_param(other.isUntouched() ? Late(idents)
+                                  : Late(boost::shared_ptr<InterpolatingParam<double>>(
+                                        other.m_param.ifMade()->clone())))
 {}
+
+bool LateDoubleParam::isUntouched() const
+{
+    InterpolatingParam<double> const* const made = m_param.ifMade();
+    return !made || made->isUntouched(m_initial);
+}
 
 boost::shared_ptr<InterpolatingParam<double>> const& LateDoubleParam::get(
     SubProject const& owner) const

@@ -12,13 +12,6 @@ namespace tarn {
 
 namespace {
 
-boost::shared_ptr<VectorParam> cloneIfTouched(VectorParam const* vector, double initial)
-{
-    if (!vector || vector->isUntouched(initial))
-        return boost::shared_ptr<VectorParam>();
-    return boost::shared_ptr<VectorParam>(vector->clone());
-}
-
 unsigned int bitsOf(int first, int count)
 {
     return ((1u << count) - 1) << first;
@@ -27,16 +20,26 @@ unsigned int bitsOf(int first, int count)
 }  // namespace
 
 template <int Count>
-LateVectorParam<Count>::LateVectorParam(char const* name, double initial)
-    : m_name(name), m_initial(initial)
+LateVectorParam<Count>::LateVectorParam(char const* name, double initial,
+                                        unsigned int const* idents)
+    : m_name(name), m_initial(initial), m_param(idents)
 {}
 
 template <int Count>
-LateVectorParam<Count>::LateVectorParam(LateVectorParam const& other)
+LateVectorParam<Count>::LateVectorParam(LateVectorParam const& other, unsigned int const* idents)
     : m_name(other.m_name)
     , m_initial(other.m_initial)
-    , m_param(cloneIfTouched(other.m_param.ifMade(), other.m_initial))
+    , m_param(other.isUntouched()
+                  ? Late(idents)
+                  : Late(boost::shared_ptr<VectorParam>(other.m_param.ifMade()->clone())))
 {}
+
+template <int Count>
+bool LateVectorParam<Count>::isUntouched() const
+{
+    VectorParam const* const made = m_param.ifMade();
+    return !made || made->isUntouched(m_initial);
+}
 
 template <int Count>
 boost::shared_ptr<VectorParam> const& LateVectorParam<Count>::get(SubProject const& owner) const

@@ -5,6 +5,8 @@
 #include "parameters/ParametersFwd.h"
 #include "project/SubProject.h"
 
+#include <cstddef>
+
 namespace tarn {
 
 /// A vector parameter whose dimensions have one key frame each, at time 0, that is made on first
@@ -13,11 +15,19 @@ template <int Count>
 class TARN_API LateVectorParam
 {
 public:
-    /// The name is a literal.
-    LateVectorParam(char const* name, double initial);
-    /// A copy of one that is as it was made is not made. The caller holds the read lock.
-    LateVectorParam(LateVectorParam const& other);
+    /// How many idents it draws.
+    static std::size_t constexpr k_numIdents = 2 + 4 * Count;
+
+    /// The name is a literal. Takes k_numIdents over, or draws them if there are none.
+    LateVectorParam(char const* name, double initial, unsigned int const* idents = nullptr);
+    /// A copy of one that is as it was made is not made, and takes or draws its idents as above;
+    /// any other makes its own. The caller holds the read lock.
+    LateVectorParam(LateVectorParam const& other, unsigned int const* idents = nullptr);
     LateVectorParam& operator=(LateVectorParam const& other) = delete;
+
+    /// Whether nobody has given it anything of its own, so that a copy need not be made. The caller
+    /// holds the read lock.
+    bool isUntouched() const;
 
     /// The parameter, made now if nobody has asked before. `owner` is what it belongs to.
     boost::shared_ptr<VectorParam> const& get(SubProject const& owner) const;
@@ -39,7 +49,7 @@ public:
     void toXML(XMLable::Options& options, int indent) const;
 
 private:
-    using Late = LateObject<VectorParam, 2 + 4 * Count>;
+    using Late = LateObject<VectorParam, k_numIdents>;
 
     char const* m_name;
     double m_initial;

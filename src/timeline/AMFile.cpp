@@ -8,6 +8,7 @@
 #include <istream>
 #include <iterator>
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
@@ -15,14 +16,27 @@ namespace {
 
 using AMFiles = std::set<boost::shared_ptr<AMFile const>>;
 
-SourceTrack checkedTrack(boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
-                         std::set<unsigned int> const& channels, char const* channelRefusal)
+SourceTrack checkedTrack(boost::shared_ptr<Source const> const& source, unsigned int trackNumber)
 {
-    SourceTrack const track(source, trackNumber,
-                            "trying to make a amfile with an invalid source track");
+    return SourceTrack(source, trackNumber, "trying to make a amfile with an invalid source track");
+}
+
+SourceTrack checkedTrack(boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
+                         unsigned int channel)
+{
+    SourceTrack track = checkedTrack(source, trackNumber);
+    if (channel >= track.numChannels())
+        throw TarnMediaLibException("trying to make a amfile with an invalid channel");
+    return track;
+}
+
+SourceTrack checkedTrack(boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
+                         std::set<unsigned int> const& channels)
+{
+    SourceTrack track = checkedTrack(source, trackNumber);
     // The set rises, so its last member decides.
     if (!channels.empty() && *channels.rbegin() >= track.numChannels())
-        throw TarnMediaLibException(channelRefusal);
+        throw TarnMediaLibException("trying to make a amfile with an invalid channels");
     return track;
 }
 
@@ -70,29 +84,23 @@ std::set<unsigned int> existingChannel(AMFile const& file, unsigned int channel)
 AMFile::AMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
                boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
                unsigned int channel)
-    : AMFile(range,
-             checkedTrack(source, trackNumber, std::set<unsigned int>({channel}),
-                          "trying to make a amfile with an invalid channel"),
-             std::set<unsigned int>({channel}), project)
+    : AMFile(range, checkedTrack(source, trackNumber, channel), std::set<unsigned int>({channel}),
+             project)
 {}
 
 AMFile::AMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
                boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
                std::set<unsigned int> const& channels)
-    : AMFile(range,
-             checkedTrack(source, trackNumber, channels,
-                          "trying to make a amfile with an invalid channels"),
-             channels, project)
+    : AMFile(range, checkedTrack(source, trackNumber, channels), channels, project)
 {}
 
 AMFile::AMFile(Range<long long> const& range, SourceTrack const& track,
-               std::set<unsigned int> const& channels,
-               boost::weak_ptr<ThreadSafe const> const& project)
+               std::set<unsigned int> channels, boost::weak_ptr<ThreadSafe const> const& project)
     : AudioMedia(range, track.sampleRate(), track.bitDepth(),
                  static_cast<double>(track.timeRange().start),
                  static_cast<double>(track.timeRange().end()), project)
     , m_track(track)
-    , m_channels(channels)
+    , m_channels(std::move(channels))
 {}
 
 AMFile::AMFile(Range<long long> const& range, unsigned int sampleRate, unsigned int bitDepth,

@@ -71,8 +71,7 @@ protected:
 private:
     friend class MediaImpl;  // its cloneOf() copies
 
-    AMFile(Range<long long> const& range, SourceTrack const& track,
-           std::set<unsigned int> const& channels,
+    AMFile(Range<long long> const& range, SourceTrack const& track, std::set<unsigned int> channels,
            boost::weak_ptr<ThreadSafe const> const& project);
     /// A complete copy but for the channels.
     AMFile(AMFile const& other, std::set<unsigned int> const& channels);

@@ -14,6 +14,12 @@ Media::Media(Media const& other)
     , EdgeModifiable(other)
 {}
 
+bool Media::isUnlinked() const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    return m_keepsPlace ? m_place.links.empty() : linkBegin() == linkEnd();
+}
+
 Range<long long> Media::trackRangeWithMove(long long offset) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());

@@ -57,6 +57,8 @@ public:
     virtual LinkList::iterator linkBegin() = 0;
     virtual ConstIterator<LinkList> linkEnd() const = 0;
     virtual LinkList::iterator linkEnd() = 0;
+    /// Whether it has no links, as most have: told sooner than by walking them. Read lock.
+    bool isUnlinked() const;
     /// Another media, not linked yet, of exactly equal track and media ranges.
     virtual bool isLinkableWith(boost::shared_ptr<Media const> const& other) const = 0;
 

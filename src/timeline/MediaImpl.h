@@ -123,6 +123,8 @@ protected:
     /// those without one. Needs the complete object, and does not notify, as nothing owns it yet.
     void copyEdgeModifications(MediaImpl const& other);
 
+    /// Whether there is one; an edge modification always has one.
+    bool hasEdgeFunctions() const { return !m_leftEdgeMods.empty() || !m_rightEdgeMods.empty(); }
     /// Gives every edge function that knows a mixer and a media that mixer and `media` instead.
     void aimEdgeFunctionsAt(boost::shared_ptr<VisualMedia const> const& media);
 

@@ -1,5 +1,6 @@
 #include "timeline/VisualMedia.h"
 
+#include "datatypes/IdentBatch.h"
 #include "datatypes/XmlText.h"
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
@@ -7,22 +8,44 @@
 
 namespace tarn {
 
+namespace {
+
+std::size_t constexpr k_numIdents =
+    2 * LateVectorParam<4>::k_numIdents + LateDoubleParam::k_numIdents;
+
+}  // namespace
+
+VisualMedia::Shown::Shown() : Shown(IdentBatch(k_numIdents)) {}
+
+VisualMedia::Shown::Shown(IdentBatch idents)
+    : sourceCrop("sourceCrop", 0, idents.take(sourceCrop.k_numIdents))
+    , geometryCrop("geometryCrop", 0, idents.take(geometryCrop.k_numIdents))
+    , opacity("opacity", 1, idents.take(opacity.k_numIdents))
+{}
+
+// Copies of parameters that someone has touched draw idents of their own, in their turn.
+VisualMedia::Shown::Shown(Shown const& other)
+    : Shown(other, IdentBatch(other.isUntouched() ? k_numIdents : 0))
+{}
+
+VisualMedia::Shown::Shown(Shown const& other, IdentBatch idents)
+    : sourceCrop(other.sourceCrop, idents.take(sourceCrop.k_numIdents))
+    , geometryCrop(other.geometryCrop, idents.take(geometryCrop.k_numIdents))
+    , opacity(other.opacity, idents.take(opacity.k_numIdents))
+{}
+
+bool VisualMedia::Shown::isUntouched() const
+{
+    return sourceCrop.isUntouched() && geometryCrop.isUntouched() && opacity.isUntouched();
+}
+
 VisualMedia::VisualMedia(Range<long long> const& sourceRange, double mediaStartLimit,
                          double mediaEndLimit, boost::weak_ptr<ThreadSafe const> const& project)
-    : MediaImpl(sourceRange, mediaStartLimit, mediaEndLimit, project)
-    , Transformer(project)
-    , m_sourceCrop("sourceCrop", 0)
-    , m_geometryCrop("geometryCrop", 0)
-    , m_opacity("opacity", 1)
+    : MediaImpl(sourceRange, mediaStartLimit, mediaEndLimit, project), Transformer(project)
 {}
 
 VisualMedia::VisualMedia(VisualMedia const& other)
-    : XMLIdentified(other)
-    , MediaImpl(other)
-    , Transformer(other)
-    , m_sourceCrop(other.m_sourceCrop)
-    , m_geometryCrop(other.m_geometryCrop)
-    , m_opacity(other.m_opacity)
+    : XMLIdentified(other), MediaImpl(other), Transformer(other), m_shown(other.m_shown)
 {}
 
 TransformMatrix VisualMedia::transformAtTime(long long time) const
@@ -33,12 +56,12 @@ TransformMatrix VisualMedia::transformAtTime(long long time) const
 
 Rect<double> VisualMedia::sourceCropRectAtTime(long long time) const
 {
-    return cropRectAtTime(m_sourceCrop, time);
+    return cropRectAtTime(m_shown.sourceCrop, time);
 }
 
 Rect<double> VisualMedia::geometryCropRectAtTime(long long time) const
 {
-    return cropRectAtTime(m_geometryCrop, time);
+    return cropRectAtTime(m_shown.geometryCrop, time);
 }
 
 Rect<double> VisualMedia::cropRectAtTime(LateVectorParam<4> const& crop, long long time) const
@@ -61,25 +84,26 @@ void VisualMedia::shownValuesAtTime(double time, double* values) const
     unsigned int wanted = (1u << k_numShownValues) - 1;
     {
         ReadWriteMutex::ScopedReadLock lock(mutex());
-        m_sourceCrop.storeConstants(*this, wanted, 0, values);
-        m_geometryCrop.storeConstants(*this, wanted, 4, values);
-        m_opacity.storeConstants(*this, wanted, opacity, values);
+        m_shown.sourceCrop.storeConstants(*this, wanted, 0, values);
+        m_shown.geometryCrop.storeConstants(*this, wanted, 4, values);
+        m_shown.opacity.storeConstants(*this, wanted, opacity, values);
         Transformer::storeConstants(*this, wanted, transform, values);
     }
     if (wanted == 0)
         return;
     // Edges may call host code, which is no place for a lock.
-    m_sourceCrop.storeOthers(*this, *this, time, wanted, 0, values);
-    m_geometryCrop.storeOthers(*this, *this, time, wanted, 4, values);
-    m_opacity.storeOthers(*this, *this, time, wanted, opacity, values);
+    m_shown.sourceCrop.storeOthers(*this, *this, time, wanted, 0, values);
+    m_shown.geometryCrop.storeOthers(*this, *this, time, wanted, 4, values);
+    m_shown.opacity.storeOthers(*this, *this, time, wanted, opacity, values);
     Transformer::storeOthers(*this, time, wanted, transform, values);
 }
 
 void VisualMedia::setupSharedClone(boost::shared_ptr<Media> const& clone) const
 {
-    if (boost::shared_ptr<VisualMedia> const media =
-            boost::dynamic_pointer_cast<VisualMedia>(clone))
-        media->aimEdgeFunctionsAt(media);
+    if (hasEdgeFunctions()) {
+        if (auto const media = boost::dynamic_pointer_cast<VisualMedia>(clone))
+            media->aimEdgeFunctionsAt(media);
+    }
     MediaImpl::setupSharedClone(clone);
 }
 
@@ -108,9 +132,9 @@ VisualMedia::parameterVector() const
 
 void VisualMedia::xmlOfParameters(XMLable::Options& options, int indent) const
 {
-    m_sourceCrop.toXML(options, indent);
-    m_geometryCrop.toXML(options, indent);
-    m_opacity.toXML(options, indent);
+    m_shown.sourceCrop.toXML(options, indent);
+    m_shown.geometryCrop.toXML(options, indent);
+    m_shown.opacity.toXML(options, indent);
 }
 
 void VisualMedia::xmlName(XMLable::Options& options) const

@@ -27,19 +27,22 @@ public:
     virtual double height() const = 0;
 
     /// What is not read of the picture, in its own pixels.
-    boost::shared_ptr<VectorParam> sourceCropParam() { return m_sourceCrop.get(*this); }
-    boost::shared_ptr<VectorParam const> sourceCropParam() const { return m_sourceCrop.get(*this); }
+    boost::shared_ptr<VectorParam> sourceCropParam() { return m_shown.sourceCrop.get(*this); }
+    boost::shared_ptr<VectorParam const> sourceCropParam() const
+    {
+        return m_shown.sourceCrop.get(*this);
+    }
     /// What is not shown of the picture and cannot be hit, in its own pixels.
-    boost::shared_ptr<VectorParam> geometryCropParam() { return m_geometryCrop.get(*this); }
+    boost::shared_ptr<VectorParam> geometryCropParam() { return m_shown.geometryCrop.get(*this); }
     boost::shared_ptr<VectorParam const> geometryCropParam() const
     {
-        return m_geometryCrop.get(*this);
+        return m_shown.geometryCrop.get(*this);
     }
     /// From 0, unseen, to 1, which it is at first. Key frames lie on the source's clock.
-    boost::shared_ptr<InterpolatingParam<double>> opacity() { return m_opacity.get(*this); }
+    boost::shared_ptr<InterpolatingParam<double>> opacity() { return m_shown.opacity.get(*this); }
     boost::shared_ptr<InterpolatingParam<double> const> opacity() const
     {
-        return m_opacity.get(*this);
+        return m_shown.opacity.get(*this);
     }
 
     /// How many numbers say how a picture is shown: those of parameterVector(), in its order.
@@ -70,9 +73,24 @@ protected:
 private:
     Rect<double> cropRectAtTime(LateVectorParam<4> const& crop, long long time) const;
 
-    LateVectorParam<4> m_sourceCrop;
-    LateVectorParam<4> m_geometryCrop;
-    LateDoubleParam m_opacity;
+    /// Its parameters beside the transform.
+    struct Shown
+    {
+        Shown();
+        Shown(Shown const& other);
+        Shown& operator=(Shown const&) = delete;
+
+        LateVectorParam<4> sourceCrop;
+        LateVectorParam<4> geometryCrop;
+        LateDoubleParam opacity;
+
+    private:
+        explicit Shown(IdentBatch idents);
+        Shown(Shown const& other, IdentBatch idents);
+        bool isUntouched() const;
+    };
+
+    Shown m_shown;
 };
 
 }  // namespace tarn

@@ -73,6 +73,27 @@ TEST(GraphicsUtilTest, RotatesBeforeItShears)
     EXPECT_TRUE(isNear(m * Point(1, 0, 0), Point(1, 1, 0)));
 }
 
+TEST(GraphicsUtilTest, IsTheProductOfSevenMatricesToTheLastBit)
+{
+    double const scale[3] = {1.7, -0.3, 1e-5};
+    double const translation[3] = {-123.456, 1e7, 0.1};
+    double const rotation[3] = {0.3, -2.9, 11.1};
+    double const shear[2] = {0.7, -0.2};
+    double const anchor[3] = {640.5, -0.001, 3};
+    for (double const part : {0.0, 1.0, -0.37}) {
+        double const turned[3] = {part * rotation[0], rotation[1], part * rotation[2]};
+        TransformMatrix product = TransformMatrix::translate(-123.456, 1e7, 0.1);
+        product.append(TransformMatrix::shear(0.7, -0.2));
+        product.append(TransformMatrix::rotateAroundX(part * 0.3));
+        product.append(TransformMatrix::rotateAroundY(-2.9));
+        product.append(TransformMatrix::rotateAroundZ(part * 11.1));
+        product.append(TransformMatrix::scale(1.7, -0.3, 1e-5));
+        product.append(TransformMatrix::translate(-640.5, 0.001, -3));
+        EXPECT_EQ(product, GraphicsUtil::calcTransformFromComponents(scale, translation, turned,
+                                                                     shear, anchor));
+    }
+}
+
 TEST(GraphicsUtilTest, ProjectsTheCentreToTheMiddleOfTheViewport)
 {
     EXPECT_EQ(Point(60, 45, 0.5),
