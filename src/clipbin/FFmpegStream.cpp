@@ -18,6 +18,8 @@ namespace tarn {
 namespace {
 
 int const k_greatestSide = 1 << 20;
+// FFmpeg's decoders take no more. A forged number would become as many medias.
+int const k_mostChannels = 512;
 double const k_quarterTurn = 90;
 double const k_pi = 3.14159265358979323846;
 
@@ -163,13 +165,14 @@ bool hasSampleDescription(AVStream const& stream)
 std::optional<MovieTrack::SoundFormat> soundFormat(AVStream const& stream)
 {
     AVCodecParameters const& parameters = *stream.codecpar;
-    if (parameters.sample_rate <= 0 || parameters.ch_layout.nb_channels <= 0) {
+    int const channels = parameters.ch_layout.nb_channels;
+    if (parameters.sample_rate <= 0 || channels <= 0 || channels > k_mostChannels) {
         return std::nullopt;
     }
     MovieTrack::SoundFormat format;
     format.sampleRate = parameters.sample_rate;
     format.bitsPerChannel = static_cast<std::uint32_t>(std::max(bitsPerChannel(parameters), 0));
-    format.channelsPerFrame = static_cast<std::uint32_t>(parameters.ch_layout.nb_channels);
+    format.channelsPerFrame = static_cast<std::uint32_t>(channels);
     return format;
 }
 

@@ -26,13 +26,12 @@ constexpr std::uint32_t fourCC(char const (&text)[5])
 
 bool isContainer(std::uint32_t type)
 {
-    static constexpr std::uint32_t k_containers[] = {
+    static constexpr std::uint32_t k_types[] = {
         fourCC("moov"), fourCC("trak"), fourCC("mdia"), fourCC("minf"), fourCC("stbl"),
         fourCC("moof"), fourCC("traf"), fourCC("mvex"), fourCC("edts"), fourCC("dinf"),
         fourCC("udta"), fourCC("sinf"), fourCC("schi"), fourCC("tref"), fourCC("rmra"),
         fourCC("rmda"), fourCC("rmdr"), fourCC("meta")};
-    return std::find(std::begin(k_containers), std::end(k_containers), type) !=
-           std::end(k_containers);
+    return std::find(std::begin(k_types), std::end(k_types), type) != std::end(k_types);
 }
 
 std::uint32_t bigEndian(std::uint8_t const* bytes)

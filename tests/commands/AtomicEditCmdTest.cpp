@@ -2,6 +2,7 @@
 
 #include "commands/CommandPair.h"
 #include "commands/NullCmd.h"
+#include "support/Address.h"
 
 #include <gtest/gtest.h>
 
@@ -48,14 +49,6 @@ public:
 private:
     using AtomicEditCmd::AtomicEditCmd;
 };
-
-template <class T>
-std::string address(boost::shared_ptr<T const> const& object)
-{
-    std::ostringstream out;
-    out << static_cast<void const*>(object.get());
-    return out.str();
-}
 
 class AtomicEditCmdTest : public testing::Test
 {

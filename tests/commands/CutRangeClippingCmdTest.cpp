@@ -12,17 +12,21 @@ namespace {
 class CutRangeClippingCmdTest : public ModelTest
 {
 protected:
-    boost::shared_ptr<CutRangeClippingCmd> cut(long long start, long long duration) const
+    boost::shared_ptr<CutRangeClippingCmd> cut(std::vector<std::string> const& trackNames,
+                                               long long start, long long duration) const
     {
-        return CutRangeClippingCmd::create(timeline(), Range<long long>(start, duration), "piece");
+        auto const command =
+            CutRangeClippingCmd::create(timeline(), Range<long long>(start, duration), "piece");
+        for (std::string const& name : trackNames)
+            command->addTrack(track(name));
+        return command;
     }
 };
 
 TEST_F(CutRangeClippingCmdTest, AMiddlePieceGoesToTheBoard)
 {
     given("V1: aaaaaa");
-    auto const command = cut(20, 20);
-    command->addTrack(track("V1"));
+    auto const command = cut({"V1"}, 20, 20);
     EXPECT_TRUE(edits(command, "V1: aa..bb"));
     EXPECT_EQ("V1: (0,20)\n", placesIn(*command->clipping()));
     EXPECT_EQ("piece", command->clipping()->name());
@@ -31,8 +35,7 @@ TEST_F(CutRangeClippingCmdTest, AMiddlePieceGoesToTheBoard)
 TEST_F(CutRangeClippingCmdTest, MediasAreTakenOutAndTheBoardIsOneLonger)
 {
     given("V1: aaabbb.cc");
-    auto const command = cut(10, 70);
-    command->addTrack(track("V1"));
+    auto const command = cut({"V1"}, 10, 70);
     // What a cut leaves on its right is a new media.
     EXPECT_TRUE(edits(command, "V1: a.......d"));
     EXPECT_EQ("V1: (0,20) (20,30) (60,10)\n", placesIn(*command->clipping()));
@@ -45,8 +48,7 @@ TEST_F(CutRangeClippingCmdTest, MediasAreTakenOutAndTheBoardIsOneLonger)
 TEST_F(CutRangeClippingCmdTest, RedoPutsANewClippingOnTheBoard)
 {
     given("V1: aaa");
-    auto const command = cut(0, 30);
-    command->addTrack(track("V1"));
+    auto const command = cut({"V1"}, 0, 30);
     project->execute(command);
     boost::shared_ptr<Clipping> const first = command->clipping();
     project->undo();
@@ -60,9 +62,7 @@ TEST_F(CutRangeClippingCmdTest, RedoPutsANewClippingOnTheBoard)
 TEST_F(CutRangeClippingCmdTest, BothHalvesOfALinkedPairAreCut)
 {
     given("A1: aaaaaa / V1: aaaaaa");
-    auto const command = cut(20, 20);
-    command->addTrack(track("V1"));
-    command->addTrack(track("A1"));
+    auto const command = cut({"V1", "A1"}, 20, 20);
     EXPECT_TRUE(edits(command, "A1: aa..bb / V1: aa..bb"));
     EXPECT_EQ("V1: (0,20)\nA1: (0,20)\n", placesIn(*command->clipping()));
 }
@@ -70,8 +70,7 @@ TEST_F(CutRangeClippingCmdTest, BothHalvesOfALinkedPairAreCut)
 TEST_F(CutRangeClippingCmdTest, TheCopyTakesWholeLinkedTracksAndTheRemovalOnlyLinks)
 {
     given("A1: aaa.cc / V1: aaa");
-    auto const command = cut(0, 60);
-    command->addTrack(track("V1"));
+    auto const command = cut({"V1"}, 0, 60);
     EXPECT_TRUE(edits(command, "A1: ....cc"));
     EXPECT_EQ("V1: (0,30)\nA1: (0,30) (40,20)\n", placesIn(*command->clipping()));
 }
@@ -79,8 +78,7 @@ TEST_F(CutRangeClippingCmdTest, TheCopyTakesWholeLinkedTracksAndTheRemovalOnlyLi
 TEST_F(CutRangeClippingCmdTest, OtherTracksStay)
 {
     given("V1: aaa / V2: bbb");
-    auto const command = cut(0, 30);
-    command->addTrack(track("V2"));
+    auto const command = cut({"V2"}, 0, 30);
     EXPECT_TRUE(edits(command, "V1: aaa"));
 }
 
@@ -88,15 +86,14 @@ TEST_F(CutRangeClippingCmdTest, WithoutTracksItIsRefused)
 {
     given("V1: aaa");
     EXPECT_TRUE(refuses<TarnMediaLibException>(
-        cut(0, 10), "can't perform a cut range clipping without tracks"));
+        cut({}, 0, 10), "can't perform a cut range clipping without tracks"));
     EXPECT_EQ(0u, numClippings(*project));
 }
 
 TEST_F(CutRangeClippingCmdTest, AnEmptyRangeIsRefused)
 {
     given("V1: aaa");
-    auto const command = cut(30, 10);
-    command->addTrack(track("V1"));
+    auto const command = cut({"V1"}, 30, 10);
     EXPECT_TRUE(
         refuses<TarnMediaLibException>(command, "trying to make a clipping with no medias"));
 }
@@ -104,8 +101,7 @@ TEST_F(CutRangeClippingCmdTest, AnEmptyRangeIsRefused)
 TEST_F(CutRangeClippingCmdTest, ACloneOfTheCommandHasACopyOfItsOwn)
 {
     given("V1: aaa");
-    auto const command = cut(0, 30);
-    command->addTrack(track("V1"));
+    auto const command = cut({"V1"}, 0, 30);
     boost::shared_ptr<CutRangeClippingCmd> const clone(command->clone());
     EXPECT_TRUE(edits(clone, ""));
     EXPECT_TRUE(clone->clipping());
@@ -115,7 +111,7 @@ TEST_F(CutRangeClippingCmdTest, ACloneOfTheCommandHasACopyOfItsOwn)
 TEST_F(CutRangeClippingCmdTest, XmlIsTheNameAlone)
 {
     given("V1: aaa");
-    EXPECT_EQ("<CutRangeClippingCmd id=\"#\"  >\n</CutRangeClippingCmd>\n", xmlOf(*cut(0, 9)));
+    EXPECT_EQ("<CutRangeClippingCmd id=\"#\"  >\n</CutRangeClippingCmd>\n", xmlOf(*cut({}, 0, 9)));
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
 #include "commands/InsertClippingCmd.h"
 
-#include "commands/CopySelectClippingCmd.h"
+#include "commands/LayClippingTest.h"
 #include "exceptions/CollisionException.h"
-#include "support/ClippingText.h"
-#include "support/ModelTest.h"
 #include "support/Xml.h"
 
 #include <gmock/gmock.h>
@@ -14,29 +12,9 @@ namespace tarn {
 namespace test {
 namespace {
 
-class InsertClippingCmdTest : public ModelTest
+class InsertClippingCmdTest : public LayClippingTest
 {
 protected:
-    /// What a selection gives.
-    boost::shared_ptr<Clipping> clippingOf(
-        std::vector<boost::shared_ptr<Media const>> const& medias) const
-    {
-        auto const copy = CopySelectClippingCmd::create(timeline(), medias, "choice");
-        project->execute(copy);
-        return copy->clipping();
-    }
-    void mapPicture(InsertClippingCmd& command, Clipping& clipping, unsigned int from,
-                    unsigned int to) const
-    {
-        command.addTrackMap<AbstractVisualTrack>(visualTrackOf(clipping, from),
-                                                 visualMixer()->trackAtIndex(to));
-    }
-    void mapSound(InsertClippingCmd& command, Clipping& clipping, unsigned int from,
-                  unsigned int to) const
-    {
-        command.addTrackMap<AudioTrack>(audioTrackOf(clipping, from),
-                                        audioMixer()->trackAtIndex(to));
-    }
     /// A command that lays the first picture track of the clipping on V1.
     boost::shared_ptr<InsertClippingCmd> insertOnV1(boost::shared_ptr<Clipping> const& clipping,
                                                     long long time) const

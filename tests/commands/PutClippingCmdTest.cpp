@@ -1,9 +1,7 @@
 #include "commands/PutClippingCmd.h"
 
-#include "commands/CopySelectClippingCmd.h"
+#include "commands/LayClippingTest.h"
 #include "exceptions/CollisionException.h"
-#include "support/ClippingText.h"
-#include "support/ModelTest.h"
 #include "support/Thrown.h"
 #include "support/Xml.h"
 
@@ -15,30 +13,7 @@ namespace tarn {
 namespace test {
 namespace {
 
-class PutClippingCmdTest : public ModelTest
-{
-protected:
-    /// What a selection gives, with the history still holding its copy alone.
-    boost::shared_ptr<Clipping> clippingOf(
-        std::vector<boost::shared_ptr<Media const>> const& medias) const
-    {
-        auto const copy = CopySelectClippingCmd::create(timeline(), medias, "choice");
-        project->execute(copy);
-        return copy->clipping();
-    }
-    void mapPicture(PutClippingCmd& command, Clipping& clipping, unsigned int from,
-                    unsigned int to) const
-    {
-        command.addTrackMap<AbstractVisualTrack>(visualTrackOf(clipping, from),
-                                                 visualMixer()->trackAtIndex(to));
-    }
-    void mapSound(PutClippingCmd& command, Clipping& clipping, unsigned int from,
-                  unsigned int to) const
-    {
-        command.addTrackMap<AudioTrack>(audioTrackOf(clipping, from),
-                                        audioMixer()->trackAtIndex(to));
-    }
-};
+using PutClippingCmdTest = LayClippingTest;
 
 TEST_F(PutClippingCmdTest, AClippingIsLaidIntoAGap)
 {

@@ -7,26 +7,26 @@ namespace test {
 
 namespace {
 
-class Item : public DecoratedCloneable<Item>
+class Node : public DecoratedCloneable<Node>
 {
 public:
-    Item* clone() const override { return new Item(*this); }
+    Node* clone() const override { return new Node(*this); }
 
-    Item const* m_madeFrom = nullptr;
+    Node const* m_madeFrom = nullptr;
 };
 
-class NotesTheOriginal : public CloneDecorator<Item>
+class NotesTheOriginal : public CloneDecorator<Node>
 {
 public:
-    void decorateClone(Item const& original, boost::shared_ptr<Item> const& clone) const override
+    void decorateClone(Node const& original, boost::shared_ptr<Node> const& clone) const override
     {
         clone->m_madeFrom = &original;
     }
 };
 
-boost::shared_ptr<Item> decoratedItem()
+boost::shared_ptr<Node> decoratedItem()
 {
-    boost::shared_ptr<Item> const item(new Item);
+    boost::shared_ptr<Node> const item(new Node);
     item->setCloneDecorator(boost::shared_ptr<NotesTheOriginal>(new NotesTheOriginal));
     return item;
 }
@@ -35,20 +35,20 @@ boost::shared_ptr<Item> decoratedItem()
 
 TEST(DecoratedCloneableTest, WithoutADecoratorACloneIsLeftAsItIs)
 {
-    boost::shared_ptr<Item> const item(new Item);
-    EXPECT_EQ(nullptr, sharedClone<Item>(item)->m_madeFrom);
+    boost::shared_ptr<Node> const item(new Node);
+    EXPECT_EQ(nullptr, sharedClone<Node>(item)->m_madeFrom);
 }
 
 TEST(DecoratedCloneableTest, TheDecoratorIsGivenTheOriginalAndTheClone)
 {
-    boost::shared_ptr<Item> const item = decoratedItem();
-    EXPECT_EQ(item.get(), sharedClone<Item>(item)->m_madeFrom);
+    boost::shared_ptr<Node> const item = decoratedItem();
+    EXPECT_EQ(item.get(), sharedClone<Node>(item)->m_madeFrom);
 }
 
 TEST(DecoratedCloneableTest, AClonesClonesAreDecoratedToo)
 {
-    boost::shared_ptr<Item> const clone = sharedClone<Item>(decoratedItem());
-    EXPECT_EQ(clone.get(), sharedClone<Item>(clone)->m_madeFrom);
+    boost::shared_ptr<Node> const clone = sharedClone<Node>(decoratedItem());
+    EXPECT_EQ(clone.get(), sharedClone<Node>(clone)->m_madeFrom);
 }
 
 }  // namespace test

@@ -11,13 +11,9 @@
 #include <boost/smart_ptr/bad_weak_ptr.hpp>
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace tarn {
 namespace test {
 namespace {
-
-double const k_rightAngle = std::acos(0.0);
 
 /// A mixer, a track and a still on it from 100 to 200.
 class GraphicsUtilModelTest : public ::testing::Test

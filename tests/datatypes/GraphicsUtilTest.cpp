@@ -4,14 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace tarn {
 namespace {
 
 using test::isNear;
+using test::k_pi;
 
-double const k_pi = std::acos(-1.0);
 double const k_zero[3] = {0, 0, 0};
 double const k_one[3] = {1, 1, 1};
 Rect<int> const k_viewport(10, 20, 100, 50);

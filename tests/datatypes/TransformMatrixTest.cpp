@@ -10,9 +10,8 @@ namespace tarn {
 namespace {
 
 using test::isNear;
+using test::k_pi;
 using test::matrix;
-
-double const k_pi = std::acos(-1.0);
 
 TransformMatrix counting()
 {

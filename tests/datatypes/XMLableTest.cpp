@@ -43,14 +43,14 @@ class TwoWays : public Element, public WithParameters
 {
 };
 
-std::string xmlOf(XMLable const& element)
+std::string xmlWithIds(XMLable const& element)
 {
     std::ostringstream out;
     element.toXML(out);
     return out.str();
 }
 
-std::string xmlOf(XMLable const& element, int indent, std::string const& extra)
+std::string xmlWithIds(XMLable const& element, int indent, std::string const& extra)
 {
     std::ostringstream out;
     XMLable::Options options{&out, ""};
@@ -68,7 +68,7 @@ std::string ident(XMLIdentified const& object)
 TEST(XMLableTest, AnEmptyElementHasTwoBlanksAndBothTags)
 {
     Element const element;
-    EXPECT_EQ("<Element id=\"" + ident(element) + "\"  >\n</Element>\n", xmlOf(element));
+    EXPECT_EQ("<Element id=\"" + ident(element) + "\"  >\n</Element>\n", xmlWithIds(element));
 }
 
 TEST(XMLableTest, AttributesStandBetweenTwoBlanks)
@@ -76,7 +76,7 @@ TEST(XMLableTest, AttributesStandBetweenTwoBlanks)
     Element element;
     element.m_attributes = "a=\"1\" b=\"2\"";
     EXPECT_EQ("<Element id=\"" + ident(element) + "\" a=\"1\" b=\"2\" >\n</Element>\n",
-              xmlOf(element));
+              xmlWithIds(element));
 }
 
 TEST(XMLableTest, ExtraAttributesComeLastAndUnescaped)
@@ -84,14 +84,14 @@ TEST(XMLableTest, ExtraAttributesComeLastAndUnescaped)
     Element element;
     element.m_attributes = "a=\"1\"";
     EXPECT_EQ("<Element id=\"" + ident(element) + "\" a=\"1\" name=\"a&b\">\n</Element>\n",
-              xmlOf(element, 0, "name=\"a&b\""));
+              xmlWithIds(element, 0, "name=\"a&b\""));
 }
 
 TEST(XMLableTest, ALevelIsOneBlank)
 {
     Element const element;
     EXPECT_EQ("   <Element id=\"" + ident(element) + "\"  >\n   </Element>\n",
-              xmlOf(element, 3, ""));
+              xmlWithIds(element, 3, ""));
 }
 
 TEST(XMLableTest, TheBodyStandsOneLevelDeeper)
@@ -101,7 +101,7 @@ TEST(XMLableTest, TheBodyStandsOneLevelDeeper)
         *options.stream << XMLable::genIndent(indent) << "<Line>\n";
     };
     EXPECT_EQ(" <Element id=\"" + ident(element) + "\"  >\n  <Line>\n </Element>\n",
-              xmlOf(element, 1, ""));
+              xmlWithIds(element, 1, ""));
 }
 
 TEST(XMLableTest, AChildIsWrittenWithTheLevelOfTheBody)
@@ -114,20 +114,20 @@ TEST(XMLableTest, AChildIsWrittenWithTheLevelOfTheBody)
     };
     EXPECT_EQ("<Parent id=\"" + ident(parent) + "\"  >\n <Element id=\"" + ident(child) +
                   "\"  name=\"opacity\">\n </Element>\n</Parent>\n",
-              xmlOf(parent));
+              xmlWithIds(parent));
 }
 
 TEST(XMLableTest, AnEmptyNameIsNotCheckedFor)
 {
     Element element;
     element.m_name = "";
-    EXPECT_EQ("< id=\"" + ident(element) + "\"  >\n</>\n", xmlOf(element));
+    EXPECT_EQ("< id=\"" + ident(element) + "\"  >\n</>\n", xmlWithIds(element));
 }
 
 TEST(XMLableTest, AStreamAloneMeansAnEmptyBasePath)
 {
     Element const element;
-    xmlOf(element);
+    xmlWithIds(element);
     EXPECT_EQ("", element.m_basePath);
 }
 
@@ -146,7 +146,7 @@ TEST(XMLableTest, BothWaysToAnIdentGiveTheSame)
     XMLable const& asElement = object;
     WithParameters const& asOther = object;
     EXPECT_EQ(asElement.xmlIdent(), asOther.xmlIdent());
-    EXPECT_NE(std::string::npos, xmlOf(object).find("id=\"" + ident(asOther) + "\""));
+    EXPECT_NE(std::string::npos, xmlWithIds(object).find("id=\"" + ident(asOther) + "\""));
 }
 
 TEST(XMLableTest, AnAssignedElementKeepsItsIdent)

@@ -18,12 +18,12 @@ namespace test {
 namespace {
 
 /// An element whose body is told in place.
-class Element : public XMLable
+class ToldElement : public XMLable
 {
 public:
     using Body = std::function<void(XMLable::Options&)>;
 
-    explicit Element(Body const& body) : m_body(body) {}
+    explicit ToldElement(Body const& body) : m_body(body) {}
 
     void xmlName(XMLable::Options& options) const override { *options.stream << "E"; }
     void xmlAttributes(XMLable::Options&) const override {}
@@ -61,7 +61,7 @@ private:
     bool m_throws;
 };
 
-std::string xmlOf(Element const& element)
+std::string textOf(ToldElement const& element)
 {
     std::ostringstream out;
     element.toXML(out);
@@ -74,7 +74,7 @@ TEST(XmlBufferTest, TheOptionsStillNameTheStreamThatWasGiven)
 {
     std::ostringstream out;
     std::ostream* seen = nullptr;
-    Element const element([&seen](XMLable::Options& options) { seen = options.stream; });
+    ToldElement const element([&seen](XMLable::Options& options) { seen = options.stream; });
     element.toXML(out);
     EXPECT_EQ(&out, seen);
 }
@@ -84,7 +84,7 @@ TEST(XmlBufferTest, StandsBehindTheStreamOnlyWhileXmlIsWritten)
     std::ostringstream out;
     std::streambuf* const own = static_cast<std::ostream&>(out).rdbuf();
     bool stood = false;
-    Element const element([&stood](XMLable::Options& options) {
+    ToldElement const element([&stood](XMLable::Options& options) {
         stood = XmlBuffer::behind(*options.stream) != nullptr;
     });
     element.toXML(out);
@@ -94,13 +94,14 @@ TEST(XmlBufferTest, StandsBehindTheStreamOnlyWhileXmlIsWritten)
 
 TEST(XmlBufferTest, WhatIsWrittenToTheStreamItselfKeepsItsPlace)
 {
-    Element const inner([](XMLable::Options& options) { *options.stream << "body" << std::flush; });
-    Element const outer([&inner](XMLable::Options& options) {
+    ToldElement const inner(
+        [](XMLable::Options& options) { *options.stream << "body" << std::flush; });
+    ToldElement const outer([&inner](XMLable::Options& options) {
         *options.stream << 1 << '\n';
         inner.toXML(options, 0, "");
         options.stream->put('2').write("3\n", 2);
     });
-    EXPECT_EQ(outer.opening() + "1\n" + inner.opening() + "body</E>\n23\n</E>\n", xmlOf(outer));
+    EXPECT_EQ(outer.opening() + "1\n" + inner.opening() + "body</E>\n23\n</E>\n", textOf(outer));
 }
 
 TEST(XmlBufferTest, TheStreamTellsItsPositionMeanwhile)
@@ -108,7 +109,7 @@ TEST(XmlBufferTest, TheStreamTellsItsPositionMeanwhile)
     std::ostringstream out;
     out << "12345";
     std::streamoff position = 0;
-    Element const element(
+    ToldElement const element(
         [&position](XMLable::Options& options) { position = options.stream->tellp(); });
     element.toXML(out);
     EXPECT_EQ(5 + static_cast<std::streamoff>(element.opening().size()), position);
@@ -116,7 +117,7 @@ TEST(XmlBufferTest, TheStreamTellsItsPositionMeanwhile)
 
 TEST(XmlBufferTest, AFormatSetInsideGoesOnBehindTheElement)
 {
-    Element const element([](XMLable::Options& options) { *options.stream << std::hex; });
+    ToldElement const element([](XMLable::Options& options) { *options.stream << std::hex; });
     std::ostringstream out;
     element.toXML(out);
     out << 255;
@@ -126,19 +127,19 @@ TEST(XmlBufferTest, AFormatSetInsideGoesOnBehindTheElement)
 TEST(XmlBufferTest, AnotherStreamInTheOptionsIsWrittenToInstead)
 {
     std::ostringstream aside;
-    Element const inner([](XMLable::Options&) {});
-    Element const outer([&](XMLable::Options& options) {
+    ToldElement const inner([](XMLable::Options&) {});
+    ToldElement const outer([&](XMLable::Options& options) {
         XMLable::Options other = options;
         other.stream = &aside;
         inner.toXML(other, 0, "");
     });
-    EXPECT_EQ(outer.opening() + "</E>\n", xmlOf(outer));
+    EXPECT_EQ(outer.opening() + "</E>\n", textOf(outer));
     EXPECT_EQ(inner.opening() + "</E>\n", aside.str());
 }
 
 TEST(XmlBufferTest, WhatWasWrittenBeforeAThrowArrives)
 {
-    Element const element([](XMLable::Options& options) {
+    ToldElement const element([](XMLable::Options& options) {
         *options.stream << "half";
         throw std::runtime_error("class");
     });
@@ -151,7 +152,7 @@ TEST(XmlBufferTest, WhatWasWrittenBeforeAThrowArrives)
 
 TEST(XmlBufferTest, ATargetThatIsFullTurnsTheStreamBad)
 {
-    Element const element([](XMLable::Options&) {});
+    ToldElement const element([](XMLable::Options&) {});
     ShortTarget target(5, false);
     std::ostream out(&target);
     element.toXML(out);
@@ -161,7 +162,7 @@ TEST(XmlBufferTest, ATargetThatIsFullTurnsTheStreamBad)
 
 TEST(XmlBufferTest, ATargetThatThrowsTurnsTheStreamBad)
 {
-    Element const element([](XMLable::Options&) {});
+    ToldElement const element([](XMLable::Options&) {});
     ShortTarget target(5, true);
     std::ostream out(&target);
     EXPECT_NO_THROW(element.toXML(out));
@@ -172,13 +173,14 @@ TEST(XmlBufferTest, ATargetThatThrowsTurnsTheStreamBad)
 TEST(XmlBufferTest, LongTextsArriveWhole)
 {
     std::string const text = std::string(8191, 'a') + std::string(30000, 'b') + "c";
-    Element const element([&text](XMLable::Options& options) { *options.stream << text << text; });
-    EXPECT_EQ(element.opening() + text + text + "</E>\n", xmlOf(element));
+    ToldElement const element(
+        [&text](XMLable::Options& options) { *options.stream << text << text; });
+    EXPECT_EQ(element.opening() + text + text + "</E>\n", textOf(element));
 }
 
 TEST(XmlBufferTest, ABadStateSetInsideStays)
 {
-    Element const element([](XMLable::Options& options) {
+    ToldElement const element([](XMLable::Options& options) {
         options.stream->setstate(std::ios_base::failbit);
         *options.stream << "swallowed";
     });

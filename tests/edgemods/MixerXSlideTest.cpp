@@ -4,6 +4,7 @@
 #include "edgemods/MixerXSlideInFunc.h"
 #include "edgemods/MixerXSlideOutFunc.h"
 #include "parameters/Attribute.h"
+#include "support/Geometry.h"
 #include "support/SlideStage.h"
 #include "support/Xml.h"
 #include "timeline/VMFile.h"
@@ -16,8 +17,6 @@
 namespace tarn {
 namespace test {
 namespace {
-
-double const k_rightAngle = std::acos(0.0);
 
 class MixerXSlideTest : public ::testing::Test
 {

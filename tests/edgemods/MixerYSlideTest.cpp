@@ -3,6 +3,7 @@
 #include "edgemods/MixerYSlideInFunc.h"
 #include "edgemods/MixerYSlideOutFunc.h"
 #include "parameters/Attribute.h"
+#include "support/Geometry.h"
 #include "support/SlideStage.h"
 #include "support/Xml.h"
 
@@ -14,8 +15,6 @@
 namespace tarn {
 namespace test {
 namespace {
-
-double const k_rightAngle = std::acos(0.0);
 
 class MixerYSlideTest : public ::testing::Test
 {

@@ -38,14 +38,14 @@ namespace {
 
 using Action = std::function<void(FaultStage&)>;
 
-char const* const k_strip = "A1: aaaa.bb / V1: aaaa.bb.cc";
+char const* const k_smallStrip = "A1: aaaa.bb / V1: aaaa.bb.cc";
 
 Operation row(char const* name, Action const& run, Action const& prepare = Action(),
               std::function<std::string(FaultStage&)> const& tell = nullptr)
 {
     Operation result;
     result.name = name;
-    result.strip = k_strip;
+    result.strip = k_smallStrip;
     result.prepare = prepare;
     result.run = run;
     result.tell = tell;

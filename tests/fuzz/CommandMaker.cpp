@@ -65,6 +65,11 @@ long long CommandMaker::offset()
     return (static_cast<long long>(number() % 13) - 6) * 10;
 }
 
+long long CommandMaker::oneOf(std::vector<long long> const& times)
+{
+    return times.empty() || chance(5) ? time() : times[below(times.size())];
+}
+
 std::vector<CommandMaker::NamedTrack> CommandMaker::tracksOf(char kind) const
 {
     std::vector<NamedTrack> result;
@@ -115,6 +120,16 @@ CommandMaker::NamedMedia CommandMaker::anyPlaced()
     if (chance(2))
         found.on = anyTrack();  // a track that it is not on
     return found;
+}
+
+CommandMaker::NamedNumber CommandMaker::anyNumber()
+{
+    NamedMedia const of = anyPlaced();
+    if (!of.media)
+        return NamedNumber();
+    int const index = static_cast<int>(below(6));
+    return {m_stage.numberOf(of.media, index),
+            "numberOf(" + of.code + ", " + std::to_string(index) + ")"};
 }
 
 std::vector<CommandMaker::NamedTrack> CommandMaker::someTracks()

@@ -53,18 +53,28 @@ private:
         std::string code;
     };
 
+    /// A parameter of a media with an expression for it; without one when the media has fewer.
+    struct NamedNumber
+    {
+        boost::shared_ptr<Parameter<double> const> parameter;
+        std::string code;
+    };
+
     std::uint32_t number() { return m_step.numbers[m_next++ % Step::k_numbers]; }
     std::uint32_t below(std::size_t count) { return number() % static_cast<std::uint32_t>(count); }
     bool chance(int percent) { return static_cast<int>(number() % 100) < percent; }
     /// Mostly on the grid and near, sometimes wild.
     long long time();
     long long offset();
+    /// Mostly one of these.
+    long long oneOf(std::vector<long long> const& times);
 
     std::vector<NamedTrack> tracks() const;
     std::vector<NamedTrack> tracksOf(char kind) const;
     std::vector<NamedMedia> placed() const;
     NamedTrack anyTrack();
     NamedMedia anyPlaced();
+    NamedNumber anyNumber();
     std::vector<NamedTrack> someTracks();
     std::vector<NamedMedia> someMedias();
 

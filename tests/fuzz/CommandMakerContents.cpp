@@ -365,43 +365,37 @@ void CommandMaker::makeSources()
 
 void CommandMaker::makeKeyFrames()
 {
-    NamedMedia const on = anyPlaced();
-    if (!on.media)
+    NamedNumber const of = anyNumber();
+    if (!of.parameter)
         return;
-    int const index = static_cast<int>(below(6));
-    boost::shared_ptr<Parameter<double> const> const parameter = m_stage.numberOf(on.media, index);
-    if (!parameter)
-        return;
-    std::string const parameterCode = "numberOf(" + on.code + ", " + std::to_string(index) + ")";
-    std::vector<long long> const times = *parameter->keyframeTimes();
-    long long const existing = times.empty() || chance(5) ? time() : times[below(times.size())];
+    std::vector<long long> const times = *of.parameter->keyframeTimes();
+    long long const existing = oneOf(times);
     long long const fresh = time();
     double const value = static_cast<double>(below(1000)) / 7;
     switch (m_step.op) {
     case Op::AddKeyFrame:
-        set(AddKeyFrameCmd<double>::create(parameter, fresh, value),
-            code::call("AddKeyFrameCmd<double>::create", parameterCode, fresh,
-                       code::number(value)));
+        set(AddKeyFrameCmd<double>::create(of.parameter, fresh, value),
+            code::call("AddKeyFrameCmd<double>::create", of.code, fresh, code::number(value)));
         break;
     case Op::ChangeKeyFrame:
-        set(ChangeKeyFrameCmd<double>::create(parameter, existing, value),
-            code::call("ChangeKeyFrameCmd<double>::create", parameterCode, existing,
+        set(ChangeKeyFrameCmd<double>::create(of.parameter, existing, value),
+            code::call("ChangeKeyFrameCmd<double>::create", of.code, existing,
                        code::number(value)));
         break;
     case Op::RemoveKeyFrame:
         // A parameter without a value is the host's own doing; its readers are refused.
         if (times.size() != 1)
-            set(RemoveKeyFrameCmd<double>::create(parameter, existing),
-                code::call("RemoveKeyFrameCmd<double>::create", parameterCode, existing));
+            set(RemoveKeyFrameCmd<double>::create(of.parameter, existing),
+                code::call("RemoveKeyFrameCmd<double>::create", of.code, existing));
         break;
     case Op::MoveKeyFrame:
-        set(MoveKeyFrameCmd::create(parameter, existing, fresh),
-            code::call("MoveKeyFrameCmd::create", parameterCode, existing, fresh));
+        set(MoveKeyFrameCmd::create(of.parameter, existing, fresh),
+            code::call("MoveKeyFrameCmd::create", of.code, existing, fresh));
         break;
     default: {
         long long const by = offset();
-        set(MoveKeyframesCmd::create(parameter, by),
-            code::call("MoveKeyframesCmd::create", parameterCode, by));
+        set(MoveKeyframesCmd::create(of.parameter, by),
+            code::call("MoveKeyframesCmd::create", of.code, by));
         break;
     }
     }

@@ -27,8 +27,7 @@ void CommandMaker::makeKeyFrameOf(std::string const& type)
 {
     boost::shared_ptr<Parameter<T> const> const parameter = m_stage.typed<T>();
     std::string const parameterCode = "typed<" + type + ">()";
-    std::vector<long long> const times = *parameter->keyframeTimes();
-    long long const existing = times.empty() || chance(5) ? time() : times[below(times.size())];
+    long long const existing = oneOf(*parameter->keyframeTimes());
     long long const fresh = time();
     std::uint32_t const drawn = below(1000);
     T const value = m_stage.value<T>(drawn);
@@ -72,19 +71,14 @@ void CommandMaker::makeTypedKeyFrame()
 
 void CommandMaker::makeSetInterpolater()
 {
-    NamedMedia const on = anyPlaced();
-    if (!on.media)
-        return;
-    int const index = static_cast<int>(below(6));
-    boost::shared_ptr<Parameter<double> const> const parameter = m_stage.numberOf(on.media, index);
-    if (!parameter)
+    NamedNumber const of = anyNumber();
+    if (!of.parameter)
         return;
     long long const at = time();
     std::uint32_t const drawn = below(1000);
     using Policy = boost::shared_ptr<Interpolater<double>>;
-    set(SetInterpolaterCmd<double>::create(parameter, at, m_stage.value<Policy>(drawn)),
-        code::call("SetInterpolaterCmd<double>::create",
-                   "numberOf(" + on.code + ", " + std::to_string(index) + ")", at,
+    set(SetInterpolaterCmd<double>::create(of.parameter, at, m_stage.value<Policy>(drawn)),
+        code::call("SetInterpolaterCmd<double>::create", of.code, at,
                    "value<boost::shared_ptr<Interpolater<double>>>(" + std::to_string(drawn) +
                        ")"));
 }
@@ -92,8 +86,7 @@ void CommandMaker::makeSetInterpolater()
 void CommandMaker::makeMarker()
 {
     boost::shared_ptr<Timeline> const on = m_stage.timeline();
-    std::vector<long long> const times = *on->markerParam()->keyframeTimes();
-    long long const existing = times.empty() || chance(5) ? time() : times[below(times.size())];
+    long long const existing = oneOf(*on->markerParam()->keyframeTimes());
     std::string const name = "marker " + std::to_string(below(100));
     std::string const nameCode = '"' + name + '"';
     switch (below(3)) {

@@ -252,16 +252,14 @@ void Session::checkUndoAndRedo()
     redo();
 }
 
-void Session::undo()
+void Session::checkStep(Entry const& entry, Phase phase, std::string const& thrown,
+                        State const& found)
 {
-    Entry const entry = m_undo.back();
-    std::string const thrown = thrownBy([this] { m_stage->project->undo(); });
-    State const found = model();
     if (!thrown.empty()) {
         Evidence evidence;
         evidence.op = entry.op;
         evidence.ops = entry.ops;
-        evidence.phase = Phase::Undone;
+        evidence.phase = phase;
         evidence.thrown = thrown;
         evidence.wanted = *entry.model;
         evidence.found = *found;
@@ -269,7 +267,15 @@ void Session::undo()
         evidence.differences = evidence.wanted.differences(evidence.found);
         judge(evidence);
     }
-    compare(entry.ops, Phase::Undone, entry.model, found);
+    compare(entry.ops, phase, entry.model, found);
+}
+
+void Session::undo()
+{
+    Entry const entry = m_undo.back();
+    std::string const thrown = thrownBy([this] { m_stage->project->undo(); });
+    State const found = model();
+    checkStep(entry, Phase::Undone, thrown, found);
     m_undo.pop_back();
     m_redo.push_back({entry.id, entry.op, entry.ops, m_model});
     m_model = found;
@@ -280,19 +286,7 @@ void Session::redo()
     Entry const entry = m_redo.back();
     std::string const thrown = thrownBy([this] { m_stage->project->redo(); });
     State const found = model();
-    if (!thrown.empty()) {
-        Evidence evidence;
-        evidence.op = entry.op;
-        evidence.ops = entry.ops;
-        evidence.phase = Phase::Redone;
-        evidence.thrown = thrown;
-        evidence.wanted = *entry.model;
-        evidence.found = *found;
-        evidence.from = *m_model;
-        evidence.differences = evidence.wanted.differences(evidence.found);
-        judge(evidence);
-    }
-    compare(entry.ops, Phase::Redone, entry.model, found);
+    checkStep(entry, Phase::Redone, thrown, found);
     m_redo.pop_back();
     m_undo.push_back({entry.id, entry.op, entry.ops, m_model});
     m_model = found;

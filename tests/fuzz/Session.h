@@ -105,6 +105,8 @@ private:
     void checkRefused(Op op, std::string const& thrown, NaiveModel::Outcome predicted);
     void checkExecuted(Op op, NaiveModel::Outcome predicted);
     void checkUndoAndRedo();
+    /// Whether one step through the history threw nothing and led to the model of the entry.
+    void checkStep(Entry const& entry, Phase phase, std::string const& thrown, State const& found);
     void undo();
     void redo();
     void runHistoryStep(Step const& step);

@@ -4,13 +4,13 @@
 #include "fuzz/Session.h"
 #include "fuzz/Shrinker.h"
 #include "fuzz/Stage.h"
+#include "support/ProgramOptions.h"
 
 #include <boost/filesystem.hpp>
 
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
-#include <functional>
 #include <iomanip>
 #include <iostream>
 #include <map>
@@ -38,36 +38,18 @@ struct Options
 Options parse(int argc, char** argv)
 {
     Options options;
-    for (int i = 1; i < argc; ++i) {
-        std::string const option = argv[i];
-        if (option == "--ops") {
-            options.showsOps = true;
-            continue;
-        }
-        if (option == "--one-project") {
-            options.isOneProject = true;
-            continue;
-        }
-        if (i + 1 == argc)
-            throw std::invalid_argument(option);
-        std::string const value = argv[++i];
-        if (option == "--seed")
-            options.seed = std::stoull(value);
-        else if (option == "--commands")
-            options.commands = std::stoull(value);
-        else if (option == "--session-length")
-            options.sessionLength = std::stoi(value);
-        else if (option == "--max-faults")
-            options.maxFaults = std::stoull(value);
-        else if (option == "--seconds")
-            options.seconds = std::stod(value);
-        else if (option == "--xml")
-            options.xmlFile = value;
-        else if (option == "--scatter")
-            tarn::test::scatterHeap(std::stoull(value));
-        else
-            throw std::invalid_argument(option);
-    }
+    tarn::test::ProgramOptions known;
+    known.add("--seed", options.seed);
+    known.add("--commands", options.commands);
+    known.add("--session-length", options.sessionLength);
+    known.add("--max-faults", options.maxFaults);
+    known.add("--seconds", options.seconds);
+    known.add("--xml", options.xmlFile);
+    known.add("--scatter",
+              [](std::string const& seed) { tarn::test::scatterHeap(std::stoull(seed)); });
+    known.addFlag("--ops", options.showsOps);
+    known.addFlag("--one-project", options.isOneProject);
+    known.read(argc, argv);
     return options;
 }
 

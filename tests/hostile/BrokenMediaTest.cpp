@@ -1,6 +1,7 @@
 #include "hostile/HostileTest.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace tarn {
 namespace test {
@@ -48,6 +49,24 @@ protected:
     static std::string matroska()
     {
         return MediaFiles::made("two.mkv", MediaFiles::picture(3, "25") + " -c:v mpeg4");
+    }
+    static std::string bigEndian(std::uint64_t number, int width)
+    {
+        std::string bytes;
+        while (width > 0)
+            bytes += static_cast<char>(number >> (8 * --width));
+        return bytes;
+    }
+    /// Two samples of silence at 8,000 a second in each of so many channels, or as if there were.
+    static std::string soundOfChannels(std::uint32_t channels)
+    {
+        std::uint64_t const frame = 2 * std::min(channels, 1024u);
+        std::string content = "caff" + bigEndian(1, 2) + bigEndian(0, 2);
+        content += "desc" + bigEndian(32, 8) + bigEndian(0x40bf400000000000, 8) + "lpcm" +
+                   bigEndian(0, 4) + bigEndian(frame, 4) + bigEndian(1, 4) +
+                   bigEndian(channels, 4) + bigEndian(16, 4);
+        content += "data" + bigEndian(4 + 2 * frame, 8) + bigEndian(0, 4);
+        return MediaFiles::written("channels.caf", content + std::string(2 * frame, '\0'));
     }
     static std::string repeated(std::string const& piece, std::size_t size)
     {
@@ -128,6 +147,15 @@ TEST_F(BrokenMediaTest, APictureOfEnormousSizeTakesNoMemoryForIt)
     std::string bytes = MediaFiles::content(picture());
     bytes.replace(bytes.find("IHDR") + 4, 8, "\x7f\xff\xff\xff\x7f\xff\xff\xff");
     EXPECT_TRUE(isHarmlessText("enormous.png", bytes));
+}
+
+TEST_F(BrokenMediaTest, ASoundOfMoreChannelsThanAreEverDecodedHasNoFormat)
+{
+    std::string const noFormat = "Unable to get AudioStreamBasicDescription for file: ";
+    EXPECT_TRUE(isLoaded(soundOfChannels(2)));
+    EXPECT_TRUE(isLoaded(soundOfChannels(512)));
+    EXPECT_TRUE(isRefused(soundOfChannels(513), noFormat));
+    EXPECT_TRUE(isRefused(soundOfChannels(0x7f000001), noFormat));
 }
 
 TEST_F(BrokenMediaTest, TextIsUnclaimed)

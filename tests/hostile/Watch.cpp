@@ -10,6 +10,7 @@
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -51,7 +52,7 @@ int lowestDescriptor()
     return descriptor;
 }
 
-std::string contentOf(int file)
+std::string readBack(int file)
 {
     struct stat status = {};
     fstat(file, &status);
@@ -157,7 +158,7 @@ void Watch::end()
     m_networkCalls = s_networkCalls;
     m_lowestAfter = lowestDescriptor();
     flushOutputs();
-    m_printed = contentOf(m_output);
+    m_printed = readBack(m_output);
     if (!m_printed.empty() && ftruncate(m_output, 0) == 0) {
         lseek(m_output, 0, SEEK_SET);
     }
@@ -165,6 +166,17 @@ void Watch::end()
     dup2(m_savedError, STDERR_FILENO);
     close(m_savedOut);
     close(m_savedError);
+}
+
+void limitMemory()
+{
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    rlim_t const twoGigabytes = rlim_t(2) << 30;
+    rlimit const limit{twoGigabytes, twoGigabytes};
+    if (setrlimit(RLIMIT_AS, &limit) != 0) {
+        throw std::runtime_error("the memory cannot be limited");
+    }
+#endif
 }
 
 }  // namespace test

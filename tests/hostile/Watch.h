@@ -41,5 +41,9 @@ private:
     std::string m_printed;
 };
 
+/// From now on the process has memory for any sensible file and no more, so that one which asks for
+/// all of the machine's is a fault. Nothing under a sanitizer, which maps far more itself.
+void limitMemory();
+
 }  // namespace test
 }  // namespace tarn

@@ -6,6 +6,7 @@
 #include "hostile/Scratch.h"
 #include "hostile/SourceMaker.h"
 #include "hostile/Tally.h"
+#include "hostile/Watch.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -57,6 +58,7 @@ bool run(Options const& options)
     Mutator mutator(filesOf(options.seeds), options.seed);
     Scratch const scratch;
     Tally tally;
+    limitMemory();
     while (tally.files() < options.files && !s_isToEnd) {
         FileImage const file = mutator.next();
         std::string const path = scratch.write(file);

@@ -4,6 +4,7 @@
 
 #include "hostile/SourceMaker.h"
 #include "hostile/Tally.h"
+#include "hostile/Watch.h"
 
 #include <boost/filesystem.hpp>
 
@@ -45,6 +46,7 @@ bool sweep(fs::path const& folder, Tally& tally)
 
 int main(int argc, char** argv)
 {
+    limitMemory();
     Tally tally;
     bool isFine = argc > 1;
     for (int i = 1; i < argc; ++i) {

@@ -21,7 +21,7 @@ double const k_nan = std::numeric_limits<double>::quiet_NaN();
 double const k_infinity = std::numeric_limits<double>::infinity();
 
 using Frame = boost::shared_ptr<KeyFrame<double>>;
-using Times = std::vector<long long>;
+using TimeList = std::vector<long long>;
 
 /// A policy that answers with the position it is asked for.
 class PositionTeller : public Interpolater<double>
@@ -68,7 +68,7 @@ protected:
 TEST_F(ParameterImplTest, StartsWithoutKeyFrames)
 {
     EXPECT_EQ(0, parameter->numKeyFrames());
-    EXPECT_EQ(Times(), *parameter->keyframeTimes());
+    EXPECT_EQ(TimeList(), *parameter->keyframeTimes());
 }
 
 TEST_F(ParameterImplTest, KeepsKeyFramesByAscendingTime)
@@ -76,7 +76,7 @@ TEST_F(ParameterImplTest, KeepsKeyFramesByAscendingTime)
     parameter->addKeyFrame(10, 1.0);
     parameter->addKeyFrame(-5, 2.0);
     parameter->addKeyFrame(3, 3.0);
-    EXPECT_EQ((Times{-5, 3, 10}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{-5, 3, 10}), *parameter->keyframeTimes());
     EXPECT_EQ(2.0, parameter->keyframeAtTime(-5)->value());
     EXPECT_EQ(3.0, parameter->keyframeAtTime(3)->value());
     EXPECT_EQ(1.0, parameter->keyframeAtTime(10)->value());
@@ -135,7 +135,7 @@ TEST_F(ParameterImplTest, AFramePutInPlaceTakesOnTheTimeThere)
     Frame const frame(new KeyFrame<double>(99, 2.0));
     parameter->changeKeyFrame(4, frame);
     EXPECT_EQ(4, frame->time());
-    EXPECT_EQ((Times{4}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{4}), *parameter->keyframeTimes());
 }
 
 TEST_F(ParameterImplTest, ChangingWhereNoFrameIsThrows)
@@ -146,7 +146,7 @@ TEST_F(ParameterImplTest, ChangingWhereNoFrameIsThrows)
     EXPECT_EQ("Invalid KeyFrame operation at time 5", failureOf([this] {
                   parameter->changeKeyFrame(5, Frame(new KeyFrame<double>(5, 2.0)));
               }));
-    EXPECT_EQ((Times{4}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{4}), *parameter->keyframeTimes());
     EXPECT_EQ(1, observer.calls());
 }
 
@@ -163,7 +163,7 @@ TEST_F(ParameterImplTest, RemovingReturnsTheValue)
     parameter->addKeyFrame(4, 1.0);
     parameter->addKeyFrame(5, 2.0);
     EXPECT_EQ(1.0, parameter->removeKeyFrame(4));
-    EXPECT_EQ((Times{5}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{5}), *parameter->keyframeTimes());
     EXPECT_EQ(3, observer.calls());
 }
 
@@ -182,7 +182,7 @@ TEST_F(ParameterImplTest, AMovedFrameKeepsItsIdentity)
     parameter->addKeyFrame(6, 2.0);
     Frame const frame = parameter->keyframeAtTime(4);
     parameter->moveKeyFrame(4, 8);
-    EXPECT_EQ((Times{6, 8}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{6, 8}), *parameter->keyframeTimes());
     EXPECT_EQ(frame, parameter->keyframeAtTime(8));
     EXPECT_EQ(8, frame->time());
     EXPECT_EQ(3, observer.calls());
@@ -201,7 +201,7 @@ TEST_F(ParameterImplTest, MovingToATakenTimeThrowsAndMovesNothing)
     parameter->addKeyFrame(6, 2.0);
     EXPECT_EQ("Invalid KeyFrame operation at time 6",
               failureOf([this] { parameter->moveKeyFrame(4, 6); }));
-    EXPECT_EQ((Times{4, 6}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{4, 6}), *parameter->keyframeTimes());
     EXPECT_EQ(4, parameter->keyframeAtTime(4)->time());
     EXPECT_EQ(2, observer.calls());
 }
@@ -304,7 +304,7 @@ TEST_F(ParameterImplTest, FindsItsWayAmongSevenTimes)
     parameter->addKeyFrame(10, 1.0);
     parameter->addKeyFrame(50, 1.0);
     parameter->addKeyFrame(30, 1.0);
-    EXPECT_EQ((Times{0, 10, 20, 30, 40, 50, 60}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{0, 10, 20, 30, 40, 50, 60}), *parameter->keyframeTimes());
     EXPECT_EQ(0, parameter->previousKeyFrameTime(10));
     EXPECT_EQ(30, parameter->previousKeyFrameTime(31));
     EXPECT_EQ(60, parameter->previousKeyFrameTime(k_max));
@@ -351,7 +351,7 @@ TEST_F(ParameterImplTest, ShiftsThoughOldAndNewTimesOverlap)
     parameter->addKeyFrame(0, 1.0);
     parameter->addKeyFrame(10, 2.0);
     parameter->moveKeyframes(10);
-    EXPECT_EQ((Times{10, 20}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{10, 20}), *parameter->keyframeTimes());
     EXPECT_EQ(1.0, parameter->keyframeAtTime(10)->value());
     EXPECT_EQ(2.0, parameter->keyframeAtTime(20)->value());
 }
@@ -361,7 +361,7 @@ TEST_F(ParameterImplTest, ShiftsBackwards)
     parameter->addKeyFrame(0, 1.0);
     parameter->addKeyFrame(10, 2.0);
     parameter->moveKeyframes(-10);
-    EXPECT_EQ((Times{-10, 0}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{-10, 0}), *parameter->keyframeTimes());
     EXPECT_EQ(-10, parameter->keyframeAtTime(-10)->time());
 }
 
@@ -392,7 +392,7 @@ TEST_F(ParameterImplTest, ShiftingLeavesTheInterpolatersWhereTheyAre)
 {
     parameter->addKeyFrame(0, 1.0);
     parameter->moveKeyframes(10);
-    EXPECT_EQ((Times{0}), *parameter->interpolaterParam()->keyframeTimes());
+    EXPECT_EQ((TimeList{0}), *parameter->interpolaterParam()->keyframeTimes());
 }
 
 TEST_F(ParameterImplTest, ShiftingOutOf64BitsThrowsAndShiftsNothing)
@@ -401,7 +401,7 @@ TEST_F(ParameterImplTest, ShiftingOutOf64BitsThrowsAndShiftsNothing)
     parameter->addKeyFrame(k_max - 1, 2.0);
     EXPECT_EQ("Invalid KeyFrame operation at time 9223372036854775806",
               failureOf([this] { parameter->moveKeyframes(2); }));
-    EXPECT_EQ((Times{0, k_max - 1}), *parameter->keyframeTimes());
+    EXPECT_EQ((TimeList{0, k_max - 1}), *parameter->keyframeTimes());
 }
 
 // Values.

@@ -1,6 +1,7 @@
 #include "project/ReadWriteMutex.h"
 
 #include "exceptions/ThreadLockingException.h"
+#include "support/MutexUse.h"
 #include "support/OtherThread.h"
 
 #include <gtest/gtest.h>
@@ -14,16 +15,6 @@ namespace {
 
 using Mutex = ReadWriteMutex;
 
-std::function<void()> readOnce(Mutex& mutex)
-{
-    return [&mutex] { Mutex::ScopedReadLock const lock(mutex); };
-}
-
-std::function<void()> writeOnce(Mutex& mutex)
-{
-    return [&mutex] { Mutex::ScopedWriteLock const lock(mutex); };
-}
-
 std::string messageWhenReading(Mutex const& mutex)
 {
     try {
@@ -32,34 +23,6 @@ std::string messageWhenReading(Mutex const& mutex)
         return exception.what();
     }
     return "not reading";
-}
-
-/// Two numbers that a writer keeps equal.
-struct Pair
-{
-    int first = 0;
-    int second = 0;
-};
-
-void writePairs(Mutex& mutex, Pair& pair, int times)
-{
-    for (int i = 0; i < times; ++i) {
-        Mutex::ScopedWriteLock const lock(mutex);
-        ++pair.first;
-        Mutex::ScopedReadLock const nested(mutex);
-        ++pair.second;
-    }
-}
-
-int countUnequalPairs(Mutex& mutex, Pair const& pair, int times)
-{
-    int unequal = 0;
-    for (int i = 0; i < times; ++i) {
-        Mutex::ScopedReadLock const lock(mutex);
-        Mutex::ScopedReadLock const nested(mutex);
-        unequal += pair.first != pair.second;
-    }
-    return unequal;
 }
 
 }  // namespace
@@ -174,20 +137,20 @@ TEST(ReadWriteMutexTest, ReleasingAWriteLockThatNoOneHoldsChangesNothing)
 TEST(ReadWriteMutexTest, OneReadingThreadBesideAWritingOneSeesNoHalfDoneWork)
 {
     Mutex mutex;
-    Pair pair;
-    OtherThread writer([&] { writePairs(mutex, pair, 20000); });
-    EXPECT_EQ(0, countUnequalPairs(mutex, pair, 20000));
+    EqualPair pair;
+    OtherThread writer([&] { pair.raise(mutex, 20000); });
+    EXPECT_EQ(0, pair.countUnequal(mutex, 20000));
     writer.join();
-    EXPECT_EQ(20000, pair.second);
+    EXPECT_EQ(20000, pair.second());
 }
 
 TEST(ReadWriteMutexTest, ManyReadingThreadsNeedNoWriter)
 {
     Mutex mutex;
-    Pair const pair;
-    OtherThread first([&] { countUnequalPairs(mutex, pair, 20000); });
-    OtherThread second([&] { countUnequalPairs(mutex, pair, 20000); });
-    EXPECT_EQ(0, countUnequalPairs(mutex, pair, 20000));
+    EqualPair const pair;
+    OtherThread first([&] { pair.countUnequal(mutex, 20000); });
+    OtherThread second([&] { pair.countUnequal(mutex, 20000); });
+    EXPECT_EQ(0, pair.countUnequal(mutex, 20000));
     EXPECT_TRUE(first.finishes());
     EXPECT_TRUE(second.finishes());
 }

@@ -1,5 +1,6 @@
 #include "exceptions/ThreadLockingException.h"
 #include "project/ReadWriteMutex.h"
+#include "support/MutexUse.h"
 #include "support/OtherThread.h"
 #include "support/Thrown.h"
 
@@ -19,16 +20,6 @@ namespace {
 using Mutex = ReadWriteMutex;
 
 int const k_readers = 8;
-
-std::function<void()> readOnce(Mutex& mutex)
-{
-    return [&mutex] { Mutex::ScopedReadLock const lock(mutex); };
-}
-
-std::function<void()> writeOnce(Mutex& mutex)
-{
-    return [&mutex] { Mutex::ScopedWriteLock const lock(mutex); };
-}
 
 template <class Condition>
 void waitUntil(Condition const& condition)
@@ -67,13 +58,6 @@ private:
     std::list<OtherThread> m_threads;
 };
 
-/// Two numbers that writers keep equal.
-struct Pair
-{
-    int first = 0;
-    int second = 0;
-};
-
 }  // namespace
 
 class StrictLockTest : public ::testing::Test
@@ -101,27 +85,14 @@ TEST_F(StrictLockTest, ManyThreadsReadAtTheSameTime)
 
 TEST_F(StrictLockTest, WritersAreAloneBesideManyReaders)
 {
-    Pair pair;
+    EqualPair pair;
     std::atomic<int> unequal{0};
-    Threads writers(2, [&] {
-        for (int i = 0; i < 2000; ++i) {
-            Mutex::ScopedWriteLock const lock(mutex);
-            ++pair.first;
-            Mutex::ScopedReadLock const nested(mutex);
-            ++pair.second;
-        }
-    });
-    Threads readers(k_readers, [&] {
-        for (int i = 0; i < 2000; ++i) {
-            Mutex::ScopedReadLock const lock(mutex);
-            Mutex::ScopedReadLock const nested(mutex);
-            unequal += pair.first != pair.second;
-        }
-    });
+    Threads writers(2, [&] { pair.raise(mutex, 2000); });
+    Threads readers(k_readers, [&] { unequal += pair.countUnequal(mutex, 2000); });
     EXPECT_TRUE(writers.allFinish());
     EXPECT_TRUE(readers.allFinish());
     EXPECT_EQ(0, unequal);
-    EXPECT_EQ(4000, pair.first);
+    EXPECT_EQ(4000, pair.second());
 }
 
 TEST_F(StrictLockTest, ManyReadersWaitForTheWriter)

@@ -10,6 +10,9 @@
 namespace tarn {
 namespace test {
 
+inline double const k_pi = std::acos(-1.0);
+inline double const k_rightAngle = k_pi / 2;
+
 /// Equal up to rounding.
 inline ::testing::AssertionResult isNear(Point const& got, Point const& wanted)
 {

@@ -1,6 +1,7 @@
 #include "fuzz/Generator.h"
 #include "fuzz/Session.h"
 #include "fuzz/Stage.h"
+#include "support/ProgramOptions.h"
 #include "threads/Judge.h"
 #include "threads/ModelReader.h"
 #include "threads/WriterCount.h"
@@ -45,24 +46,13 @@ LockPolicy policyOf(std::string const& name)
 Options parse(int argc, char** argv)
 {
     Options options;
-    for (int i = 1; i + 1 < argc; i += 2) {
-        std::string const option = argv[i];
-        std::string const value = argv[i + 1];
-        if (option == "--seed")
-            options.seed = std::stoull(value);
-        else if (option == "--commands")
-            options.commands = std::stoull(value);
-        else if (option == "--session-length")
-            options.sessionLength = std::stoi(value);
-        else if (option == "--readers")
-            options.readers = std::stoi(value);
-        else if (option == "--policy")
-            options.policy = policyOf(value);
-        else
-            throw std::invalid_argument("no option: " + option);
-    }
-    if (argc % 2 == 0)
-        throw std::invalid_argument("an option without a value");
+    tarn::test::ProgramOptions known;
+    known.add("--seed", options.seed);
+    known.add("--commands", options.commands);
+    known.add("--session-length", options.sessionLength);
+    known.add("--readers", options.readers);
+    known.add("--policy", [&options](std::string const& name) { options.policy = policyOf(name); });
+    known.read(argc, argv);
     return options;
 }
 

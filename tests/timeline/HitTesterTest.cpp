@@ -6,6 +6,7 @@
 #include "parameters/InterpolatingParam.h"
 #include "parameters/VectorParam.h"
 #include "support/FakeProject.h"
+#include "support/Geometry.h"
 #include "timeline/IMFile.h"
 #include "timeline/ImageTransition.h"
 #include "timeline/VMFile.h"
@@ -20,8 +21,6 @@
 namespace tarn {
 namespace test {
 namespace {
-
-double const k_rightAngle = std::acos(0.0);
 
 /// A mixer of 640 x 480 with one track, and stills of 64 x 48 that last 10. The eye stands 3000
 /// before the middle and sees the plane z = 0 so that a location on the viewport is a place on it.

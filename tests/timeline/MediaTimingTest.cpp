@@ -13,8 +13,8 @@ namespace tarn {
 namespace test {
 namespace {
 
-using Track = Range<long long>;
-using Source = Range<double>;
+using TrackRange = Range<long long>;
+using SourceRange = Range<double>;
 using BadScalar = ValueException<double>;
 using BadOffset = ValueException<long long>;
 
@@ -38,8 +38,8 @@ protected:
     }
 };
 
-::testing::AssertionResult shows(Media const& media, Track const& track, Source const& source,
-                                 double scalar)
+::testing::AssertionResult shows(Media const& media, TrackRange const& track,
+                                 SourceRange const& source, double scalar)
 {
     if (media.trackRange() == track && media.mediaRange() == source && media.scalar() == scalar)
         return ::testing::AssertionSuccess();
@@ -51,7 +51,7 @@ protected:
 
 TEST_F(MediaTimingTest, AFreshMediaStartsAtZeroAndShowsItsSourceRange)
 {
-    EXPECT_TRUE(shows(*clip(30, 100), Track(0, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*clip(30, 100), TrackRange(0, 100), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, KeepsTheLimitsOfItsSource)
@@ -68,33 +68,33 @@ TEST_F(MediaTimingTest, ItsTimesAreThoseOfTheTrack)
     EXPECT_EQ(7, made->startTime());
     EXPECT_EQ(107, made->endTime());
     EXPECT_EQ(100, made->duration());
-    EXPECT_EQ(Track(7, 100), made->timeRange());
+    EXPECT_EQ(TrackRange(7, 100), made->timeRange());
 }
 
 TEST_F(MediaTimingTest, AMoveChangesTheTrackStartOnly)
 {
     boost::shared_ptr<Clip> const made = clip(30, 100);
     made->move(25);
-    EXPECT_TRUE(shows(*made, Track(25, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(25, 100), SourceRange(30, 100), 1.0));
     made->move(-40);
-    EXPECT_TRUE(shows(*made, Track(-15, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(-15, 100), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, SettingTheTrackStartChangesNothingElse)
 {
     boost::shared_ptr<Clip> const made = clip(30, 100);
     made->setTrackStart(12);
-    EXPECT_TRUE(shows(*made, Track(12, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(12, 100), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, TellsTheRangesThatEditsWouldGive)
 {
     boost::shared_ptr<Clip> const made = clip(30, 100);
     made->setTrackStart(40);
-    EXPECT_EQ(Track(45, 100), made->trackRangeWithMove(5));
-    EXPECT_EQ(Track(45, 95), made->trackRangeWithTrimStart(5));
-    EXPECT_EQ(Track(40, 95), made->trackRangeWithTrimEnd(5));
-    EXPECT_EQ(Track(35, 105), made->trackRangeWithTrimStart(-5));
+    EXPECT_EQ(TrackRange(45, 100), made->trackRangeWithMove(5));
+    EXPECT_EQ(TrackRange(45, 95), made->trackRangeWithTrimStart(5));
+    EXPECT_EQ(TrackRange(40, 95), made->trackRangeWithTrimEnd(5));
+    EXPECT_EQ(TrackRange(35, 105), made->trackRangeWithTrimStart(-5));
 }
 
 TEST_F(MediaTimingTest, EveryEditNotifiesOnce)
@@ -133,7 +133,7 @@ TEST_F(MediaTimingTest, AStretchByTwoDoublesTheTrackDuration)
 {
     boost::shared_ptr<Clip> const made = clip(30, 100);
     EXPECT_EQ(2.0, made->stretch(2.0));
-    EXPECT_TRUE(shows(*made, Track(0, 200), Source(30, 100), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 200), SourceRange(30, 100), 2.0));
 }
 
 TEST_F(MediaTimingTest, AStretchBackToOneGivesTheOldDuration)
@@ -141,7 +141,7 @@ TEST_F(MediaTimingTest, AStretchBackToOneGivesTheOldDuration)
     boost::shared_ptr<Clip> const made = clip(30, 100);
     made->stretch(2.0);
     EXPECT_EQ(1.0, made->stretch(1.0));
-    EXPECT_TRUE(shows(*made, Track(0, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 100), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, TheScalarIsTheOneOfAWholeDuration)
@@ -175,7 +175,7 @@ TEST_F(MediaTimingTest, ASecondStretchIsMeasuredFromTheNaturalLength)
     boost::shared_ptr<Clip> const made = clip(0, 100);
     made->stretch(2.0);
     EXPECT_EQ(3.0, made->stretch(3.0));
-    EXPECT_TRUE(shows(*made, Track(0, 300), Source(0, 100), 3.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 300), SourceRange(0, 100), 3.0));
 }
 
 TEST_F(MediaTimingTest, TheShortestStretchIsOneUnit)
@@ -193,7 +193,7 @@ TEST_F(MediaTimingTest, AStretchToNothingIsRefusedWithTheScalarAskedFor)
     BadScalar const thrown = thrownBy<BadScalar>([&] { made->stretch(0.001); });
     EXPECT_STREQ("invalid duration after media stretch (<=0)", thrown.what());
     EXPECT_EQ(0.001, thrown.value());
-    EXPECT_TRUE(shows(*made, Track(0, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 100), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, StretchesByZeroAndByLessAreRefused)
@@ -201,7 +201,7 @@ TEST_F(MediaTimingTest, StretchesByZeroAndByLessAreRefused)
     boost::shared_ptr<Clip> const made = clip(30, 100);
     EXPECT_EQ(0.0, thrownBy<BadScalar>([&] { made->stretch(0.0); }).value());
     EXPECT_EQ(-1.0, thrownBy<BadScalar>([&] { made->stretch(-1.0); }).value());
-    EXPECT_TRUE(shows(*made, Track(0, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 100), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, AStretchBeyondAllNumbersIsRefused)
@@ -211,7 +211,7 @@ TEST_F(MediaTimingTest, AStretchBeyondAllNumbersIsRefused)
     EXPECT_EQ(1e30, thrownBy<BadScalar>([&] { made->stretch(1e30); }).value());
     EXPECT_EQ(infinity, thrownBy<BadScalar>([&] { made->stretch(infinity); }).value());
     EXPECT_TRUE(std::isnan(thrownBy<BadScalar>([&] { made->stretch(std::nan("")); }).value()));
-    EXPECT_TRUE(shows(*made, Track(0, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 100), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, AReturnToNaturalSpeedIsCutAtTheSourcesEnd)
@@ -219,14 +219,14 @@ TEST_F(MediaTimingTest, AReturnToNaturalSpeedIsCutAtTheSourcesEnd)
     // floor(120.5 - 30) = 90 of the 100 units are left; the scalar is exactly 1 all the same.
     boost::shared_ptr<Clip> const made = clip(30, 100, 0, 120.5);
     EXPECT_EQ(1.0, made->stretch(1.0));
-    EXPECT_TRUE(shows(*made, Track(0, 90), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 90), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, OnlyAReturnToNaturalSpeedIsCut)
 {
     boost::shared_ptr<Clip> const made = clip(30, 100, 0, 120.5);
     made->stretch(2.0);
-    EXPECT_TRUE(shows(*made, Track(0, 200), Source(30, 100), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 200), SourceRange(30, 100), 2.0));
 }
 
 TEST_F(MediaTimingTest, AReturnToNaturalSpeedPastTheSourcesEndIsRefused)
@@ -234,7 +234,7 @@ TEST_F(MediaTimingTest, AReturnToNaturalSpeedPastTheSourcesEndIsRefused)
     // floor(120 - 130) is below 0.
     boost::shared_ptr<Clip> const made = clip(130, 100, 0, 120);
     EXPECT_EQ(1.0, thrownBy<BadScalar>([&] { made->stretch(1.0); }).value());
-    EXPECT_TRUE(shows(*made, Track(0, 100), Source(130, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 100), SourceRange(130, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, AReturnToNaturalSpeedRoundsTheLengthOfATrimmedMedia)
@@ -253,9 +253,9 @@ TEST_F(MediaTimingTest, PredictsTheStretchOfAMediaAtNaturalSpeed)
 {
     boost::shared_ptr<Clip> const made = clip(0, 101);
     made->setTrackStart(7);
-    EXPECT_EQ(Track(7, 51), made->trackRangeWithStretch(0.5));
-    EXPECT_EQ(Track(7, 303), made->trackRangeWithStretch(3.0));
-    EXPECT_EQ(Track(7, 101), made->trackRangeWithStretch(1.0));
+    EXPECT_EQ(TrackRange(7, 51), made->trackRangeWithStretch(0.5));
+    EXPECT_EQ(TrackRange(7, 303), made->trackRangeWithStretch(3.0));
+    EXPECT_EQ(TrackRange(7, 101), made->trackRangeWithStretch(1.0));
     EXPECT_EQ(101, made->duration());
 }
 
@@ -264,20 +264,20 @@ TEST_F(MediaTimingTest, PredictsAnotherStretchFromThePresentLength)
     // The prediction multiplies the 200 units there are; the stretch itself goes by the 100.
     boost::shared_ptr<Clip> const made = clip(0, 100);
     made->stretch(2.0);
-    EXPECT_EQ(Track(0, 600), made->trackRangeWithStretch(3.0));
-    EXPECT_EQ(Track(0, 200), made->trackRangeWithStretch(1.0));
+    EXPECT_EQ(TrackRange(0, 600), made->trackRangeWithStretch(3.0));
+    EXPECT_EQ(TrackRange(0, 200), made->trackRangeWithStretch(1.0));
 }
 
 TEST_F(MediaTimingTest, PredictsTheCutAtTheSourcesEnd)
 {
-    EXPECT_EQ(Track(0, 90), clip(30, 100, 0, 120.5)->trackRangeWithStretch(1.0));
+    EXPECT_EQ(TrackRange(0, 90), clip(30, 100, 0, 120.5)->trackRangeWithStretch(1.0));
 }
 
 TEST_F(MediaTimingTest, PredictsNoDurationForWhatNoNumberHolds)
 {
-    EXPECT_EQ(Track(0, 0), clip(0, 100)->trackRangeWithStretch(0.001));
-    EXPECT_EQ(Track(0, 0), clip(0, 100)->trackRangeWithStretch(1e30));
-    EXPECT_EQ(Track(0, 0), clip(0, 100)->trackRangeWithStretch(std::nan("")));
+    EXPECT_EQ(TrackRange(0, 0), clip(0, 100)->trackRangeWithStretch(0.001));
+    EXPECT_EQ(TrackRange(0, 0), clip(0, 100)->trackRangeWithStretch(1e30));
+    EXPECT_EQ(TrackRange(0, 0), clip(0, 100)->trackRangeWithStretch(std::nan("")));
 }
 
 // ---- Trims of moving pictures ----
@@ -286,14 +286,14 @@ TEST_F(MediaTimingTest, ATrimOfTheStartShortensBothRanges)
 {
     boost::shared_ptr<Clip> const made = clip(100, 200);
     made->trimStart(30);
-    EXPECT_TRUE(shows(*made, Track(30, 170), Source(130, 170), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(30, 170), SourceRange(130, 170), 1.0));
 }
 
 TEST_F(MediaTimingTest, ATrimOfTheEndShortensBothRanges)
 {
     boost::shared_ptr<Clip> const made = clip(100, 200);
     made->trimEnd(30);
-    EXPECT_TRUE(shows(*made, Track(0, 170), Source(100, 170), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 170), SourceRange(100, 170), 1.0));
 }
 
 TEST_F(MediaTimingTest, TrimsByNothingChangeNothing)
@@ -301,7 +301,7 @@ TEST_F(MediaTimingTest, TrimsByNothingChangeNothing)
     boost::shared_ptr<Clip> const made = clip(100, 200);
     made->trimStart(0);
     made->trimEnd(0);
-    EXPECT_TRUE(shows(*made, Track(0, 200), Source(100, 200), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 200), SourceRange(100, 200), 1.0));
 }
 
 TEST_F(MediaTimingTest, ANegativeTrimOfTheStartUncoversSource)
@@ -309,14 +309,14 @@ TEST_F(MediaTimingTest, ANegativeTrimOfTheStartUncoversSource)
     boost::shared_ptr<Clip> const made = clip(100, 200);
     made->setTrackStart(60);
     made->trimStart(-50);
-    EXPECT_TRUE(shows(*made, Track(10, 250), Source(50, 250), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(10, 250), SourceRange(50, 250), 1.0));
 }
 
 TEST_F(MediaTimingTest, ANegativeTrimOfTheEndUncoversSource)
 {
     boost::shared_ptr<Clip> const made = clip(100, 200);
     made->trimEnd(-50);
-    EXPECT_TRUE(shows(*made, Track(0, 250), Source(100, 250), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 250), SourceRange(100, 250), 1.0));
 }
 
 TEST_F(MediaTimingTest, ATrimOfAStretchedMediaMovesTheSourceByLess)
@@ -324,9 +324,9 @@ TEST_F(MediaTimingTest, ATrimOfAStretchedMediaMovesTheSourceByLess)
     // 100 units of the track are 50 of the source at half speed.
     boost::shared_ptr<Clip> const made = halfSpeed();
     made->trimStart(100);
-    EXPECT_TRUE(shows(*made, Track(600, 300), Source(150, 150), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(600, 300), SourceRange(150, 150), 2.0));
     made->trimEnd(100);
-    EXPECT_TRUE(shows(*made, Track(600, 200), Source(150, 100), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(600, 200), SourceRange(150, 100), 2.0));
 }
 
 TEST_F(MediaTimingTest, ATrimOfTheStartMayReachTheSourcesBeginning)
@@ -334,7 +334,7 @@ TEST_F(MediaTimingTest, ATrimOfTheStartMayReachTheSourcesBeginning)
     boost::shared_ptr<Clip> const made = clip(100, 200);
     made->setTrackStart(300);
     made->trimStart(-100);
-    EXPECT_TRUE(shows(*made, Track(200, 300), Source(0, 300), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(200, 300), SourceRange(0, 300), 1.0));
 }
 
 TEST_F(MediaTimingTest, ATrimOfTheStartMayNotPassTheSourcesBeginning)
@@ -345,7 +345,7 @@ TEST_F(MediaTimingTest, ATrimOfTheStartMayNotPassTheSourcesBeginning)
     BadOffset const thrown = thrownBy<BadOffset>([&] { made->trimStart(-101); });
     EXPECT_STREQ("invalid media trim start offset", thrown.what());
     EXPECT_EQ(-101, thrown.value());
-    EXPECT_TRUE(shows(*made, Track(300, 200), Source(100, 200), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(300, 200), SourceRange(100, 200), 1.0));
 }
 
 TEST_F(MediaTimingTest, LessThanOneUnitBeforeTheSourcesBeginningIsItsBeginning)
@@ -353,7 +353,7 @@ TEST_F(MediaTimingTest, LessThanOneUnitBeforeTheSourcesBeginningIsItsBeginning)
     // 601 / 2 = 300.5 media units would start at -0.5.
     boost::shared_ptr<Clip> const made = halfSpeed();
     made->trimStart(-201);
-    EXPECT_TRUE(shows(*made, Track(299, 601), Source(0, 300.5), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(299, 601), SourceRange(0, 300.5), 2.0));
 }
 
 TEST_F(MediaTimingTest, LessThanOneUnitAfterTheSourcesBeginningIsItsBeginning)
@@ -361,7 +361,7 @@ TEST_F(MediaTimingTest, LessThanOneUnitAfterTheSourcesBeginningIsItsBeginning)
     // 599 / 2 = 299.5 media units would start at 0.5.
     boost::shared_ptr<Clip> const made = halfSpeed();
     made->trimStart(-199);
-    EXPECT_TRUE(shows(*made, Track(301, 599), Source(0, 299.5), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(301, 599), SourceRange(0, 299.5), 2.0));
 }
 
 TEST_F(MediaTimingTest, AWholeUnitAfterTheSourcesBeginningStays)
@@ -369,7 +369,7 @@ TEST_F(MediaTimingTest, AWholeUnitAfterTheSourcesBeginningStays)
     boost::shared_ptr<Clip> const made = clip(100, 200);
     made->setTrackStart(300);
     made->trimStart(-99);
-    EXPECT_TRUE(shows(*made, Track(201, 299), Source(1, 299), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(201, 299), SourceRange(1, 299), 1.0));
 }
 
 TEST_F(MediaTimingTest, ATrimOfTheStartMayNotPassTheTracksBeginning)
@@ -379,7 +379,7 @@ TEST_F(MediaTimingTest, ATrimOfTheStartMayNotPassTheTracksBeginning)
     EXPECT_TRUE(made->validTrimStart(-49));
     EXPECT_FALSE(made->validTrimStart(-50));
     EXPECT_EQ(-50, thrownBy<BadOffset>([&] { made->trimStart(-50); }).value());
-    EXPECT_TRUE(shows(*made, Track(49, 200), Source(100, 200), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(49, 200), SourceRange(100, 200), 1.0));
 }
 
 TEST_F(MediaTimingTest, ATrimOfTheStartLeavesAtLeastOneUnit)
@@ -389,7 +389,7 @@ TEST_F(MediaTimingTest, ATrimOfTheStartLeavesAtLeastOneUnit)
     EXPECT_FALSE(made->validTrimStart(250));
     EXPECT_EQ(200, thrownBy<BadOffset>([&] { made->trimStart(200); }).value());
     made->trimStart(199);
-    EXPECT_TRUE(shows(*made, Track(199, 1), Source(299, 1), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(199, 1), SourceRange(299, 1), 1.0));
 }
 
 TEST_F(MediaTimingTest, ATrimOfTheEndLeavesAtLeastOneUnit)
@@ -399,9 +399,9 @@ TEST_F(MediaTimingTest, ATrimOfTheEndLeavesAtLeastOneUnit)
     EXPECT_STREQ("invalid media trim end offset", thrown.what());
     EXPECT_EQ(200, thrown.value());
     EXPECT_FALSE(made->validTrimEnd(250));
-    EXPECT_TRUE(shows(*made, Track(0, 200), Source(100, 200), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 200), SourceRange(100, 200), 1.0));
     made->trimEnd(199);
-    EXPECT_TRUE(shows(*made, Track(0, 1), Source(100, 1), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 1), SourceRange(100, 1), 1.0));
 }
 
 TEST_F(MediaTimingTest, TrimsLeaveAWholeUnitOfTheSource)
@@ -411,7 +411,7 @@ TEST_F(MediaTimingTest, TrimsLeaveAWholeUnitOfTheSource)
     EXPECT_FALSE(made->validTrimEnd(399));
     EXPECT_FALSE(made->validTrimStart(399));
     made->trimEnd(398);
-    EXPECT_TRUE(shows(*made, Track(500, 2), Source(100, 1), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(500, 2), SourceRange(100, 1), 2.0));
 }
 
 TEST_F(MediaTimingTest, AStartLessThanOneUnitFromTheSourcesEndIsRefused)
@@ -427,7 +427,7 @@ TEST_F(MediaTimingTest, AStartAUnitFromTheSourcesEndIsAccepted)
 {
     boost::shared_ptr<Clip> const made = clip(900, 100, 0, 1000);
     made->trimStart(99);
-    EXPECT_TRUE(shows(*made, Track(99, 1), Source(999, 1), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(99, 1), SourceRange(999, 1), 1.0));
 }
 
 TEST_F(MediaTimingTest, TheLengthOfAMediaIsHeldAgainstTheTimeWhereItsSourceEnds)
@@ -437,16 +437,16 @@ TEST_F(MediaTimingTest, TheLengthOfAMediaIsHeldAgainstTheTimeWhereItsSourceEnds)
     EXPECT_FALSE(made->validTrimEnd(-51));
     EXPECT_EQ(-51, thrownBy<BadOffset>([&] { made->trimEnd(-51); }).value());
     made->trimEnd(-50);
-    EXPECT_TRUE(shows(*made, Track(0, 250), Source(100, 250), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 250), SourceRange(100, 250), 1.0));
 }
 
 TEST_F(MediaTimingTest, ALengthLessThanOneUnitFromTheEndLimitBecomesTheLimit)
 {
     boost::shared_ptr<Clip> const made = clip(0, 199, 0, 199.5);
     made->trimEnd(0);
-    EXPECT_TRUE(shows(*made, Track(0, 199), Source(0, 199.5), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 199), SourceRange(0, 199.5), 1.0));
     made->trimEnd(-1);
-    EXPECT_TRUE(shows(*made, Track(0, 200), Source(0, 199.5), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 200), SourceRange(0, 199.5), 1.0));
     EXPECT_FALSE(made->validTrimEnd(-1));
 }
 
@@ -455,7 +455,7 @@ TEST_F(MediaTimingTest, ATrimOfTheStartRoundsTheLengthToTheEndLimitToo)
     // 99 units become 99.5, so the source starts half a unit early and that counts as 0.
     boost::shared_ptr<Clip> const made = clip(0, 100, 0, 99.5);
     made->trimStart(1);
-    EXPECT_TRUE(shows(*made, Track(1, 99), Source(0, 99.5), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(1, 99), SourceRange(0, 99.5), 1.0));
 }
 
 TEST_F(MediaTimingTest, TheSourceMayBeginLaterThanZero)
@@ -464,7 +464,7 @@ TEST_F(MediaTimingTest, TheSourceMayBeginLaterThanZero)
     made->setTrackStart(500);
     EXPECT_FALSE(made->validTrimStart(-51));
     made->trimStart(-50);
-    EXPECT_TRUE(shows(*made, Track(450, 250), Source(50, 250), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(450, 250), SourceRange(50, 250), 1.0));
 }
 
 TEST_F(MediaTimingTest, LessThanOneUnitBeforeALaterBeginningStaysThere)
@@ -474,7 +474,7 @@ TEST_F(MediaTimingTest, LessThanOneUnitBeforeALaterBeginningStaysThere)
     made->stretch(2.0);
     made->setTrackStart(500);
     made->trimStart(-101);
-    EXPECT_TRUE(shows(*made, Track(399, 501), Source(49.5, 250.5), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(399, 501), SourceRange(49.5, 250.5), 2.0));
 }
 
 TEST_F(MediaTimingTest, TheLargestOffsetsAreRefused)
@@ -486,7 +486,7 @@ TEST_F(MediaTimingTest, TheLargestOffsetsAreRefused)
     EXPECT_THROW(made->trimStart(least), BadOffset);
     EXPECT_THROW(made->trimEnd(most), BadOffset);
     EXPECT_THROW(made->trimEnd(least), BadOffset);
-    EXPECT_TRUE(shows(*made, Track(0, 200), Source(100, 200), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 200), SourceRange(100, 200), 1.0));
 }
 
 TEST_F(MediaTimingTest, AskingForATrimChangesNothing)
@@ -494,7 +494,7 @@ TEST_F(MediaTimingTest, AskingForATrimChangesNothing)
     boost::shared_ptr<Clip> const made = clip(100, 200);
     EXPECT_TRUE(made->validTrimStart(10));
     EXPECT_TRUE(made->validTrimEnd(10));
-    EXPECT_TRUE(shows(*made, Track(0, 200), Source(100, 200), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 200), SourceRange(100, 200), 1.0));
 }
 
 // ---- Limits of trims ----
@@ -594,7 +594,7 @@ TEST_F(MediaTimingTest, AStretchOffsetIsTheRestAfterTheScaledOffset)
 
 TEST_F(MediaTimingTest, AStillStartsLikeEveryMedia)
 {
-    EXPECT_TRUE(shows(*still(30, 100), Track(0, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*still(30, 100), TrackRange(0, 100), SourceRange(30, 100), 1.0));
     EXPECT_EQ(0, still(30, 100)->trimStartSum());
 }
 
@@ -602,9 +602,9 @@ TEST_F(MediaTimingTest, ATrimOfAStillsStartIsSummedUp)
 {
     boost::shared_ptr<IMFile> const made = still(30, 100);
     made->trimStart(40);
-    EXPECT_TRUE(shows(*made, Track(40, 60), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(40, 60), SourceRange(30, 100), 1.0));
     made->trimStart(-500);
-    EXPECT_TRUE(shows(*made, Track(-460, 560), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(-460, 560), SourceRange(30, 100), 1.0));
     EXPECT_EQ(-460, made->trimStartSum());
 }
 
@@ -612,7 +612,7 @@ TEST_F(MediaTimingTest, ATrimOfAStillsEndIsNotSummedUp)
 {
     boost::shared_ptr<IMFile> const made = still(30, 100);
     made->trimEnd(-5000);
-    EXPECT_TRUE(shows(*made, Track(0, 5100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 5100), SourceRange(30, 100), 1.0));
     EXPECT_EQ(0, made->trimStartSum());
 }
 
@@ -620,9 +620,9 @@ TEST_F(MediaTimingTest, AStillCanBeTrimmedToNothingAndToLess)
 {
     boost::shared_ptr<IMFile> const made = still(0, 100);
     made->trimEnd(100);
-    EXPECT_EQ(Track(0, 0), made->trackRange());
+    EXPECT_EQ(TrackRange(0, 0), made->trackRange());
     made->trimStart(10);
-    EXPECT_EQ(Track(10, -10), made->trackRange());
+    EXPECT_EQ(TrackRange(10, -10), made->trackRange());
 }
 
 TEST_F(MediaTimingTest, EveryTrimOfAStillIsValid)
@@ -645,9 +645,9 @@ TEST_F(MediaTimingTest, AStillMovesAndStretchesLikeEveryMedia)
     boost::shared_ptr<IMFile> const made = still(30, 100);
     made->move(12);
     EXPECT_EQ(2.0, made->stretch(2.0));
-    EXPECT_TRUE(shows(*made, Track(12, 200), Source(30, 100), 2.0));
+    EXPECT_TRUE(shows(*made, TrackRange(12, 200), SourceRange(30, 100), 2.0));
     EXPECT_EQ(1.0, made->stretch(1.0));
-    EXPECT_TRUE(shows(*made, Track(12, 100), Source(30, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(12, 100), SourceRange(30, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, AStillWithoutLengthCannotBeStretched)
@@ -656,18 +656,18 @@ TEST_F(MediaTimingTest, AStillWithoutLengthCannotBeStretched)
     made->trimEnd(100);
     EXPECT_EQ(2.0, thrownBy<BadScalar>([&] { made->stretch(2.0); }).value());
     EXPECT_EQ(1.0, thrownBy<BadScalar>([&] { made->stretch(1.0); }).value());
-    EXPECT_TRUE(shows(*made, Track(0, 0), Source(0, 100), 1.0));
+    EXPECT_TRUE(shows(*made, TrackRange(0, 0), SourceRange(0, 100), 1.0));
 }
 
 TEST_F(MediaTimingTest, AStaticEditorWorksWithoutASum)
 {
     boost::shared_ptr<Clip> const made = clip(0, 100);
     StaticEditor editor(made.get(), nullptr);
-    Track track(5, 100);
-    Source source(30, 100);
+    TrackRange track(5, 100);
+    SourceRange source(30, 100);
     editor.trimStart(10, track, source);
-    EXPECT_EQ(Track(15, 90), track);
-    EXPECT_EQ(Source(30, 100), source);
+    EXPECT_EQ(TrackRange(15, 90), track);
+    EXPECT_EQ(SourceRange(30, 100), source);
 }
 
 // ---- The clock of key frames ----

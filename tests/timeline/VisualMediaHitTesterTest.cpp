@@ -14,13 +14,9 @@
 #include <boost/smart_ptr/bad_weak_ptr.hpp>
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace tarn {
 namespace test {
 namespace {
-
-double const k_rightAngle = std::acos(0.0);
 
 /// Shoots straight down the z axis through (10, 20), at medias of 64 x 48.
 class VisualMediaHitTesterTest : public ::testing::Test

@@ -57,9 +57,8 @@ TEST_F(DrawTest, AScriptThatStopsLeavesNoPicture)
 
 TEST_F(DrawTest, APictureThatCannotBeWrittenIsTold)
 {
-    ToolRun const seen = draw(k_script, "nowhere/c.svg");
-    EXPECT_EQ(seen.status, 1);
-    EXPECT_EQ(seen.err, "tarn: cannot write nowhere/c.svg: No such file or directory\n");
+    EXPECT_TRUE(stops(draw(k_script, "nowhere/c.svg"),
+                      "tarn: cannot write nowhere/c.svg: No such file or directory"));
 }
 
 TEST_F(DrawTest, OnTheStandardOutputThePictureStandsAlone)

@@ -38,10 +38,8 @@ TEST_F(EffectsTest, JsonTellsTheSame)
 
 TEST_F(EffectsTest, AnUnknownEffectIsTold)
 {
-    ToolRun const seen = tarnTool("effects Glwo");
-    EXPECT_EQ(seen.status, 1);
-    EXPECT_EQ(seen.out, "");
-    EXPECT_EQ(seen.err, "tarn: this machine has no effect 'Glwo'; did you mean 'Glow'?\n");
+    EXPECT_TRUE(stops(tarnTool("effects Glwo"),
+                      "tarn: this machine has no effect 'Glwo'; did you mean 'Glow'?"));
 }
 
 }  // namespace

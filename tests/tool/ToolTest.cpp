@@ -70,10 +70,15 @@ testing::AssertionResult succeeds(ToolRun const& run, std::string const& out)
     return isRun(run, 0, out, "");
 }
 
+testing::AssertionResult stops(ToolRun const& run, std::string const& line, std::string const& out)
+{
+    return isRun(run, 1, out, line + "\n");
+}
+
 testing::AssertionResult fails(ToolRun const& run, std::string const& complaint,
                                std::string const& out)
 {
-    return isRun(run, 1, out, "script.tarn:" + complaint + "\n");
+    return stops(run, "script.tarn:" + complaint, out);
 }
 
 }  // namespace test

@@ -35,7 +35,10 @@ protected:
 
 /// Runs whole, and says nothing but `out`.
 testing::AssertionResult succeeds(ToolRun const& run, std::string const& out = "");
-/// Stops with status 1, having printed `out`, with `script.tarn:` and this on the standard error.
+/// Stops with status 1, having printed `out`, with that line on the standard error.
+testing::AssertionResult stops(ToolRun const& run, std::string const& line,
+                               std::string const& out = "");
+/// The same of a script, whose line begins with `script.tarn:`.
 testing::AssertionResult fails(ToolRun const& run, std::string const& complaint,
                                std::string const& out = "");
 
