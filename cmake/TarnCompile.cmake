@@ -13,12 +13,15 @@ if(TARN_SANITIZE)
     if(TARN_SANITIZE MATCHES "undefined")
         target_compile_options(tarn_compile INTERFACE -fno-sanitize-recover=all)
         # A test that calls through a null or stale pointer is stopped by the address sanitizer anyway; these
-        # checks stand at every such call and double the time that compiling the tests takes.
-        target_compile_options(
-            tarn_compile
-            INTERFACE
-                $<$<NOT:$<STREQUAL:$<TARGET_PROPERTY:NAME>,TarnMediaLib>>:-fno-sanitize=null,alignment,object-size,vptr>
-        )
+        # checks stand at every such call and double the time that compiling the tests takes. The targets of
+        # libFuzzer hold sources of the library, which keeps them.
+        if(NOT TARN_LIBFUZZER)
+            target_compile_options(
+                tarn_compile
+                INTERFACE
+                    $<$<NOT:$<STREQUAL:$<TARGET_PROPERTY:NAME>,TarnMediaLib>>:-fno-sanitize=null,alignment,object-size,vptr>
+            )
+        endif()
     endif()
 endif()
 if(TARN_COVERAGE)

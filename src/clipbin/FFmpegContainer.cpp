@@ -17,8 +17,8 @@ namespace tarn {
 
 namespace {
 
-std::int64_t const k_probeSize = 5 * 1000 * 1000;
-std::int64_t const k_longestAnalysis = 5 * AV_TIME_BASE;
+std::int64_t const k_probeSize = 5000000;
+std::int64_t const k_longestAnalysis = std::int64_t(5) * AV_TIME_BASE;
 int const k_mostStreams = 256;
 // Larger pictures than anyone has, so that a forged size cannot ask for all of the memory.
 char const* const k_mostPixels = "268435456";
