@@ -22,7 +22,6 @@ ParameterIterator<T>& ParameterIterator<T>::operator=(ParameterIterator const& o
     m_time = other.m_time;
     m_parameter = other.m_parameter;
     m_lock = other.m_lock;
-    m_proxies.clear();
     return *this;
 }
 

@@ -8,6 +8,8 @@
 #include "support/Thrown.h"
 #include "support/Xml.h"
 
+#include <vector>
+
 namespace tarn {
 namespace test {
 namespace {
@@ -64,6 +66,17 @@ TEST_F(LinkCmdTest, GroupsOfTwoAndThreeBecomeAMeshOfFive)
     EXPECT_EQ(4u, numLinks("V2.b"));
     EXPECT_TRUE(areLinked(media("A1.a"), media("V1.b")));
     EXPECT_TRUE(areLinked(media("A1.a"), media("A3.b")));
+}
+
+TEST_F(LinkCmdTest, TheMediaNamedIsLinkedBeforeTheRestOfItsGroup)
+{
+    using Links = std::vector<boost::shared_ptr<Media const>>;
+    given("A1: aaa / A2: aaa / V1: bbb / V2: bbb");
+    project->execute(link("A2.a", "V2.b"));
+    EXPECT_EQ((Links{media("A1.a"), media("V2.b"), media("V1.b")}), linksOf(media("A2.a")));
+    EXPECT_EQ((Links{media("A2.a"), media("V2.b"), media("V1.b")}), linksOf(media("A1.a")));
+    EXPECT_EQ((Links{media("V1.b"), media("A2.a"), media("A1.a")}), linksOf(media("V2.b")));
+    EXPECT_EQ((Links{media("V2.b"), media("A2.a"), media("A1.a")}), linksOf(media("V1.b")));
 }
 
 TEST_F(LinkCmdTest, UndoGivesBothGroupsBack)

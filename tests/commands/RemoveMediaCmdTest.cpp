@@ -2,11 +2,14 @@
 
 #include "support/Clip.h"
 #include "support/CommandXml.h"
+#include "support/FaultyHandler.h"
 #include "support/ModelTest.h"
 
 #include "exceptions/DanglingWeakPtrException.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
+
+#include <string>
 
 namespace tarn {
 namespace test {
@@ -49,6 +52,23 @@ TEST_F(RemoveMediaCmdTest, UndoPutsTheVeryMediasBackOnTheirTracks)
     EXPECT_TRUE(track("A1")->hasMedia(media("A1.a")));
     EXPECT_TRUE(track("V1")->hasMedia(media("V1.a")));
     EXPECT_EQ(track("V1"), media("V1.a")->parentTrack().lock());
+}
+
+TEST_F(RemoveMediaCmdTest, AGroupThatCannotComeBackWholeStaysAway)
+{
+    given("A1: ..aa / A2: ..aa / V1: ..aa");
+    for (int k = 1; k <= 3; ++k) {
+        project->execute(remove("V1.a"));
+        {
+            FaultyHandler<ForeignFault> const faulty(*project, k, ForeignFault());
+            EXPECT_THROW(project->undo(), ForeignFault);
+        }
+        EXPECT_EQ("", strip());
+        for (char const* name : {"A1.a", "A2.a", "V1.a"}) {
+            EXPECT_TRUE(media(name)->parentTrack().expired()) << name << " for call " << k;
+            project->execute(add(std::string(name, 2), media(name), 2));
+        }
+    }
 }
 
 TEST_F(RemoveMediaCmdTest, AMediaRemovedBeforeIsRefused)

@@ -59,6 +59,18 @@ TEST_F(EdgeLengthsTest, StartWithoutLengthAndModifications)
     EXPECT_TRUE(m_media->rightEdgeModifications().empty());
 }
 
+TEST_F(EdgeLengthsTest, LengthsWhoseSumIsNoNumber)
+{
+    long long const most = std::numeric_limits<long long>::max();
+    long long const least = std::numeric_limits<long long>::min();
+    EXPECT_EQ(Lengths(50, 50), lengths(100, most, most));
+    EXPECT_EQ(Lengths(99, 1), lengths(100, most, 1));
+    EXPECT_EQ(Lengths(1, 99), lengths(100, 1, most));
+    // Less than nothing fits into any media.
+    EXPECT_EQ(Lengths(least, least), lengths(100, least, least));
+    EXPECT_EQ(Lengths(-1, least), lengths(100, -1, least));
+}
+
 TEST_F(EdgeLengthsTest, BothAreKeptWhereTheyFit)
 {
     EXPECT_EQ(Lengths(30, 30), lengths(100, 30, 30));

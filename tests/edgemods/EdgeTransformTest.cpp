@@ -92,6 +92,19 @@ TEST_F(EdgeTransformTest, TheRightEdgeRunsUpToTheEnd)
     EXPECT_DOUBLE_EQ(0, opacityAt(100));
 }
 
+TEST_F(EdgeTransformTest, NeitherEdgeHasTheTimeAtItsInnerEnd)
+{
+    HostFunc const doubling([](double, double value) { return 2 * value; });
+    m_media->addLeftEdgeModification(EdgeModification(m_opacity, doubling));
+    m_media->addRightEdgeModification(EdgeModification(m_opacity, doubling));
+    m_media->setLeftEdgeModificationLength(20);
+    m_media->setRightEdgeModificationLength(40);
+    EXPECT_EQ(1.6, opacityAt(19.5));
+    EXPECT_EQ(0.8, opacityAt(20));
+    EXPECT_EQ(0.8, opacityAt(60));
+    EXPECT_EQ(1.6, opacityAt(60.5));
+}
+
 TEST_F(EdgeTransformTest, PositionsGoOnOutsideTheMedia)
 {
     // 0.8 * -10 / 20; 0.8 * (1 - 50 / 40)

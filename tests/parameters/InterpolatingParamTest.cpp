@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <iomanip>
 #include <locale>
 #include <sstream>
 
@@ -245,6 +246,44 @@ TEST_F(InterpolatingParamTest, ADeadProjectIsToldByBoost)
     EXPECT_THROW(parameter->valueAtTime(0), boost::bad_weak_ptr);
     EXPECT_THROW(parameter->ident(), boost::bad_weak_ptr);
     EXPECT_EQ(1, parameter->numKeyFrames());
+}
+
+/// A locale that writes 0,5.
+class CommaForPoint : public std::numpunct<char>
+{
+protected:
+    char do_decimal_point() const override { return ','; }
+};
+
+std::locale commaLocale()
+{
+    return std::locale(std::locale::classic(), new CommaForPoint);
+}
+
+TEST_F(InterpolatingParamTest, ValuesDoNotDependOnHowTheStreamWritesNumbers)
+{
+    boost::shared_ptr<InterpolatingParam<double>> const number = newParam<double>("n");
+    number->addKeyFrame(0, 2.0 / 3);
+    std::ostringstream precise;
+    precise << std::setprecision(12);
+    number->toXML(precise);
+    EXPECT_NE(std::string::npos, precise.str().find("value=\"0.666667\"/>"));
+    std::ostringstream local;
+    local.imbue(commaLocale());
+    number->toXML(local);
+    EXPECT_NE(std::string::npos, local.str().find("value=\"0.666667\"/>"));
+}
+
+TEST_F(InterpolatingParamTest, ValuesAreWrittenInTheLocaleOfTheProcess)
+{
+    boost::shared_ptr<InterpolatingParam<double>> const number = newParam<double>("n");
+    number->addKeyFrame(0, 0.5);
+    std::ostringstream classic;
+    classic.imbue(std::locale::classic());
+    std::locale const before = std::locale::global(commaLocale());
+    number->toXML(classic);
+    std::locale::global(before);
+    EXPECT_NE(std::string::npos, classic.str().find("value=\"0,5\"/>"));
 }
 
 }  // namespace

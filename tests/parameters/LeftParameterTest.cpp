@@ -100,5 +100,38 @@ TEST_F(LeftParameterTest, WritesAnEmptyPointerAsZero)
     EXPECT_NE(std::string::npos, xmlOf(picture).find("<Keyframe time=\"3\" value=\"0\"/>"));
 }
 
+/// A host's own parameter, whose policy shows what comes next.
+class NextParameter : public LeftParameter<std::string>
+{
+public:
+    using LeftParameter<std::string>::LeftParameter;
+
+    boost::shared_ptr<Interpolater<std::string>> interpolaterAtTime(double) const override
+    {
+        return boost::shared_ptr<Interpolater<std::string>>(new Next);
+    }
+
+private:
+    class Next : public Interpolater<std::string>
+    {
+    public:
+        Next() : Interpolater<std::string>("next") {}
+
+    protected:
+        std::string doInterpolate(std::string, std::string right, double) const override
+        {
+            return right;
+        }
+    };
+};
+
+TEST_F(LeftParameterTest, APolicyOfAHostsOwnIsAsked)
+{
+    NextParameter next(project->weak(), "next");
+    next.addKeyFrame(0, "a");
+    next.addKeyFrame(10, "b");
+    EXPECT_EQ("b", next.valueAtTime(5));
+}
+
 }  // namespace
 }  // namespace tarn

@@ -282,6 +282,27 @@ TEST_F(ParameterImplTest, StepsFromTimeToTime)
     EXPECT_EQ(4, parameter->previousKeyFrameTime(5));
 }
 
+TEST_F(ParameterImplTest, NeighboursAreFoundAmongAnyNumberOfKeyFrames)
+{
+    // At 0, 10, 20 ... one more in each round; asked at, before and behind each of them.
+    for (long long count = 1; count <= 70; ++count) {
+        long long const last = 10 * (count - 1);
+        parameter->addKeyFrame(last, 1.0);
+        for (long long time = 0; time <= last; time += 10) {
+            long long const before = time == 0 ? k_min : time - 10;
+            long long const after = time == last ? k_max : time + 10;
+            EXPECT_EQ(before, parameter->previousKeyFrameTime(time));
+            EXPECT_EQ(after, parameter->nextKeyFrameTime(time));
+            EXPECT_EQ(before, parameter->previousKeyFrameTime(time - 1));
+            EXPECT_EQ(time, parameter->nextKeyFrameTime(time - 1));
+            EXPECT_EQ(time, parameter->previousKeyFrameTime(time + 1));
+            EXPECT_EQ(after, parameter->nextKeyFrameTime(time + 1));
+            EXPECT_TRUE(parameter->hasKeyFrameAtTime(time));
+            EXPECT_FALSE(parameter->hasKeyFrameAtTime(time + 1));
+        }
+    }
+}
+
 TEST_F(ParameterImplTest, FindsItsWayAmongSevenTimes)
 {
     parameter->addKeyFrame(40, 1.0);

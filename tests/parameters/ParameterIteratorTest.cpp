@@ -50,6 +50,18 @@ TEST_F(ParameterIteratorTest, WhatItHandsOutLivesAsLongAsItDoes)
     EXPECT_EQ(2.0, second->value);
 }
 
+TEST_F(ParameterIteratorTest, WhatItHandedOutOutlivesAnAssignment)
+{
+    parameter->addKeyFrame(0, 1.0);
+    parameter->addKeyFrame(5, 2.0);
+    ParameterIterator<double> it = parameter->begin();
+    ParameterIterator<double>::Entry const* const first = it.operator->();
+    it = ++parameter->begin();
+    EXPECT_EQ(5, it->time);
+    EXPECT_EQ(0, first->time);
+    EXPECT_EQ(1.0, first->value);
+}
+
 TEST_F(ParameterIteratorTest, PostIncrementGivesThePlaceBefore)
 {
     parameter->addKeyFrame(0, 1.0);

@@ -68,8 +68,9 @@ protected:
     boost::shared_ptr<Media> freshSound(char letter, long long cells);
     boost::shared_ptr<Media> freshStill(char letter, long long cells);
 
-    /// Runs the command, undoes it, redoes it, undoes and redoes it again; after each the strip and
-    /// the exact model must be what they were. The command stays executed.
+    /// Runs the command, undoes it, redoes it, undoes and redoes it again, and once more without
+    /// the history; after each the strip and the exact model must be what they were. The command
+    /// stays executed.
     ::testing::AssertionResult edits(boost::shared_ptr<Command> const& command,
                                      std::string const& expected);
     /// The same for an edit that a strip does not show: the model must only come back exactly.

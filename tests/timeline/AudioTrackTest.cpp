@@ -92,6 +92,15 @@ TEST_F(AudioTrackTest, ASubSectionIsOfSounds)
     EXPECT_EQ(Range<long long>(30, 5), (*section)[0].range);
 }
 
+TEST_F(AudioTrackTest, ASubSectionLeavesOutWhatWasPutPastTheCheck)
+{
+    m_track->addMedia(m_one.sound, 0);
+    m_track->addMediaSansTypeCheck(m_one.video, 100);
+    auto const section = m_track->subSection(Range<long long>(0, 200));
+    ASSERT_EQ(1u, section->size());
+    EXPECT_EQ(m_one.sound, (*section)[0].media);
+}
+
 TEST_F(AudioTrackTest, KnowsWhenSomethingElseWasPutPastItsCheck)
 {
     m_track->addMedia(m_one.sound, 0);

@@ -84,6 +84,15 @@ TEST_F(ImageTrackTest, ASubSectionIsOfStills)
     EXPECT_EQ(Range<long long>(30, 5), (*section)[0].range);
 }
 
+TEST_F(ImageTrackTest, ASubSectionLeavesOutWhatWasPutPastTheCheck)
+{
+    m_track->addMedia(m_one.still, 0);
+    m_track->addMediaSansTypeCheck(m_one.video, 100);
+    auto const section = m_track->subSection(Range<long long>(0, 200));
+    ASSERT_EQ(1u, section->size());
+    EXPECT_EQ(m_one.still, (*section)[0].media);
+}
+
 TEST_F(ImageTrackTest, KnowsWhenSomethingElseWasPutPastItsCheck)
 {
     m_track->addMedia(m_one.still, 0);

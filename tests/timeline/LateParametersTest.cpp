@@ -79,6 +79,7 @@ TEST_F(LateParametersTest, LookingAtAPictureLeavesItsXmlAsItWas)
 {
     std::string const before = xmlWithIds(*picture);
     lookAtEverything(*picture);
+    boost::dynamic_pointer_cast<VMFile>(picture)->screenMetaData();
     EXPECT_EQ(before, xmlWithIds(*picture));
 }
 
@@ -227,15 +228,6 @@ TEST_F(LateParametersTest, AllShownValuesAreThoseOfTheParametersInOrder)
     EXPECT_EQ(expected, std::vector<double>(std::begin(values), std::end(values)));
 }
 
-TEST_F(LateParametersTest, AllShownValuesOfAPictureNobodyAskedAreThoseItStartsWith)
-{
-    double values[VisualMedia::k_numShownValues];
-    picture->shownValuesAtTime(5, values);
-    std::vector<double> expected(VisualMedia::k_numShownValues, 0.0);
-    expected[8] = expected[9 + 8] = expected[9 + 9] = expected[9 + 10] = 1.0;
-    EXPECT_EQ(expected, std::vector<double>(std::begin(values), std::end(values)));
-}
-
 TEST_F(LateParametersTest, AllShownValuesFollowWhatIsAnimatedAndLeaveTheRest)
 {
     double values[VisualMedia::k_numShownValues];
@@ -248,6 +240,37 @@ TEST_F(LateParametersTest, AllShownValuesFollowWhatIsAnimatedAndLeaveTheRest)
     picture->shownValuesAtTime(5, values);
     EXPECT_DOUBLE_EQ(0.495, values[8]);
     EXPECT_DOUBLE_EQ(5.05, values[9]);
+}
+
+TEST_F(LateParametersTest, AllShownValuesOfAPictureNobodyAskedAreWritten)
+{
+    std::vector<double> expected(VisualMedia::k_numShownValues, 0.0);
+    expected[8] = 1.0;
+    expected[9 + 8] = expected[9 + 9] = expected[9 + 10] = 1.0;
+    std::vector<double> values(VisualMedia::k_numShownValues, -77.0);
+    picture->shownValuesAtTime(5, values.data());
+    EXPECT_EQ(expected, values);
+}
+
+TEST_F(LateParametersTest, AllShownValuesOfAnUnanimatedPictureAreWritten)
+{
+    std::vector<double> expected(VisualMedia::k_numShownValues, 0.0);
+    for (int i = 0; i < 4; ++i) {
+        expected[static_cast<std::size_t>(i)] = 1.0 + i;
+        picture->sourceCropParam()->at(i)->changeKeyFrame(0, 1.0 + i);
+        expected[static_cast<std::size_t>(4 + i)] = 5.0 + i;
+        picture->geometryCropParam()->at(i)->changeKeyFrame(0, 5.0 + i);
+    }
+    expected[8] = 0.5;
+    picture->opacity()->changeKeyFrame(0, 0.5);
+    expected[9 + 1] = 20.0;
+    picture->translation()->at(1)->changeKeyFrame(0, 20.0);
+    expected[9 + 7] = 0.25;
+    picture->shear()->at(1)->changeKeyFrame(0, 0.25);
+    expected[9 + 8] = expected[9 + 9] = expected[9 + 10] = 1.0;
+    std::vector<double> values(VisualMedia::k_numShownValues, -77.0);
+    picture->shownValuesAtTime(5, values.data());
+    EXPECT_EQ(expected, values);
 }
 
 TEST_F(LateParametersTest, NothingDiffersBetweenTimesOfAPictureNobodyAsked)
@@ -311,10 +334,24 @@ TEST_F(LateParametersTest, ACopyTakesOverTheNameOfAWholeVector)
     EXPECT_EQ("pivot", sharedClone(picture)->anchor()->identAttribute()->value());
 }
 
+TEST_F(LateParametersTest, ACopyHasTheKeyFramesNobodyHasReadYet)
+{
+    picture->opacity()->addKeyFrame(20, 0.5);
+    picture->shear()->at(1)->addKeyFrame(20, 3.0);
+    picture->scale()->at(0)->removeKeyFrame(0);
+    boost::shared_ptr<VisualMedia> const copy = sharedClone(picture);
+    EXPECT_EQ(2, copy->opacity()->numKeyFrames());
+    EXPECT_EQ(2, copy->shear()->at(1)->numKeyFrames());
+    EXPECT_EQ(0, copy->scale()->at(0)->numKeyFrames());
+}
+
 TEST_F(LateParametersTest, AMovedKeyFrameIsCopied)
 {
+    picture->opacity()->moveKeyFrame(0, 1);
     picture->anchor()->at(0)->moveKeyFrame(0, 20);
-    EXPECT_TRUE(sharedClone(picture)->anchor()->at(0)->hasKeyFrameAtTime(20));
+    boost::shared_ptr<VisualMedia> const copy = sharedClone(picture);
+    EXPECT_TRUE(copy->opacity()->hasKeyFrameAtTime(1));
+    EXPECT_TRUE(copy->anchor()->at(0)->hasKeyFrameAtTime(20));
 }
 
 TEST_F(LateParametersTest, UndoGivesBackTheXmlOfAPictureNobodyAsked)

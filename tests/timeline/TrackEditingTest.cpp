@@ -203,6 +203,14 @@ TEST_F(TrackEditingTest, RemovalWithLinksTakesPartnersOnTheSameTrackAlong)
     EXPECT_FALSE(media("V1.b")->parentTrack().lock());
 }
 
+TEST_F(TrackEditingTest, ADeadLinkBehindLivingOnesIsFoundToo)
+{
+    given("A1: aa / V1: aa / V2: aa");
+    media("V1.a")->link(freshVideo('b', 2));
+    EXPECT_THROW(track("V1")->removeMedia(media("V1.a"), true), TarnMediaLibException);
+    EXPECT_EQ("A1: aa / V1: aa / V2: aa", strip());
+}
+
 TEST_F(TrackEditingTest, ADeadLinkIsFoundBeforeAnythingIsRemoved)
 {
     given("V1: aa");
@@ -295,6 +303,74 @@ TEST_F(TrackEditingTest, WhenOnlyThePartnerWouldCollideNeitherMoves)
     EXPECT_EQ(ConstMediaList{media("A1.b")},
               hitBy([&] { track("V1")->move(media("V1.a"), 30, true); }));
     EXPECT_EQ("A1: aa..b / V1: aa", strip());
+}
+
+class TrackEditingGroupTest : public TrackEditingTest
+{
+protected:
+    /// With one media in the way of a group of three, no member may move or grow by two cells.
+    void expectACollisionFromEveryMember(std::string const& strip)
+    {
+        given(strip);
+        for (char const* const name : {"A1", "A2", "V1"}) {
+            boost::shared_ptr<Media> const member = media(std::string(name) + ".a");
+            EXPECT_THROW(track(name)->move(member, 20, true), CollisionException) << name;
+            EXPECT_THROW(track(name)->trimEnd(member, -20, true), CollisionException) << name;
+            EXPECT_THROW(track(name)->stretch(member, 2.0, true), CollisionException) << name;
+        }
+        EXPECT_EQ(strip, this->strip());
+    }
+
+    /// With a media without length at 30 on one of its tracks, no member may start there.
+    void expectTheStartTaken(std::string const& name)
+    {
+        given("A1: ..aa / A2: ..aa / V1: ..aa");
+        boost::shared_ptr<Media> const dot = freshSound('b', 0);
+        track(name)->addMedia(dot, 30);
+        EXPECT_EQ(ConstMediaList{dot}, hitBy([&] { track("V1")->move(media("V1.a"), 10, true); }));
+        EXPECT_EQ(ConstMediaList{dot},
+                  hitBy([&] { track("V1")->trimStart(media("V1.a"), 10, true); }));
+        EXPECT_EQ(dot, track(name)->medias().at(30));
+        EXPECT_EQ(Range<long long>(20, 20), range("V1.a"));
+    }
+};
+
+TEST_F(TrackEditingGroupTest, CollidesOnItsFirstTrack)
+{
+    expectACollisionFromEveryMember("A1: aa.b / A2: aa / V1: aa");
+}
+
+TEST_F(TrackEditingGroupTest, CollidesOnItsSecondTrack)
+{
+    expectACollisionFromEveryMember("A1: aa / A2: aa.b / V1: aa");
+}
+
+TEST_F(TrackEditingGroupTest, CollidesOnItsThirdTrack)
+{
+    expectACollisionFromEveryMember("A1: aa / A2: aa / V1: aa.b");
+}
+
+TEST_F(TrackEditingGroupTest, FindsAStartTakenOnItsFirstTrack)
+{
+    expectTheStartTaken("A1");
+}
+
+TEST_F(TrackEditingGroupTest, FindsAStartTakenOnItsSecondTrack)
+{
+    expectTheStartTaken("A2");
+}
+
+// A media without length lies in nobody's way, but its entry would be lost.
+TEST_F(TrackEditingTest, TheStartOfAMediaWithoutLengthIsTaken)
+{
+    given("V1: ..aa");
+    boost::shared_ptr<Media> const dot = freshVideo('b', 0);
+    track("V1")->addMedia(dot, 30);
+    EXPECT_EQ(ConstMediaList{dot}, hitBy([&] { track("V1")->move(media("V1.a"), 10, false); }));
+    EXPECT_EQ(ConstMediaList{dot},
+              hitBy([&] { track("V1")->trimStart(media("V1.a"), 10, false); }));
+    EXPECT_EQ(dot, track("V1")->medias().at(30));
+    EXPECT_EQ(Range<long long>(20, 20), range("V1.a"));
 }
 
 TEST_F(TrackEditingTest, ACollisionNamesTheMediasOfBothTracks)
@@ -682,6 +758,25 @@ TEST_F(TrackEditingTest, RelocatingOverwritesWhatIsThere)
     track("V1")->relocateMedia(media("V1.a"), 0, 20);
     EXPECT_EQ(1u, track("V1")->numMedias());
     EXPECT_EQ(media("V1.a"), track("V1")->medias().at(20));
+}
+
+TEST_F(TrackEditingTest, RelocatingFromAKeyThatIsNotThereMakesTheEntry)
+{
+    given("V1: a.b");
+    // Nothing starts at 5: all others stay, and the media has its entry at 70.
+    track("V1")->relocateMedia(media("V1.a"), 5, 70);
+    EXPECT_EQ(3u, track("V1")->numMedias());
+    EXPECT_EQ(media("V1.a"), track("V1")->medias().at(0));
+    EXPECT_EQ(media("V1.b"), track("V1")->medias().at(20));
+    EXPECT_EQ(media("V1.a"), track("V1")->medias().at(70));
+}
+
+TEST_F(TrackEditingTest, RelocatingTakesTheEntryOfAnotherMediaToo)
+{
+    given("V1: a.b");
+    track("V1")->relocateMedia(media("V1.b"), 0, 70);
+    EXPECT_EQ(0u, track("V1")->medias().count(0));
+    EXPECT_EQ(media("V1.b"), track("V1")->medias().at(70));
 }
 
 TEST_F(TrackEditingTest, CollisionsAreTestedOnTheTracksOfLinkedMediasToo)

@@ -96,6 +96,15 @@ TEST_F(VisualTrackTest, ASubSectionIsOfPictures)
     EXPECT_EQ(Range<long long>(35, 5), (*section)[0].range);
 }
 
+TEST_F(VisualTrackTest, ASubSectionLeavesOutWhatWasPutPastTheCheck)
+{
+    m_track->addMedia(m_one.video, 0);
+    m_track->addMediaSansTypeCheck(m_one.sound, 100);
+    auto const section = m_track->subSection(Range<long long>(0, 200));
+    ASSERT_EQ(1u, section->size());
+    EXPECT_EQ(m_one.video, (*section)[0].media);
+}
+
 TEST_F(VisualTrackTest, KnowsWhenSomethingElseWasPutPastItsCheck)
 {
     m_track->addMedia(m_one.video, 0);
