@@ -95,7 +95,7 @@ private:
     {
         if (char const* const asked = std::getenv("TARN_FAULTS"))
             return std::max(1, std::atoi(asked));
-#ifdef __SANITIZE_ADDRESS__
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
         return 4;
 #else
         return 20;
