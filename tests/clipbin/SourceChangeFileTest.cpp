@@ -234,9 +234,12 @@ TEST_F(SourceChangeFileTest, AVideoThatAHostPutThereHasNothingBesideIt)
     auto const source = oldAndNew({picture(100)}, {picture(100)});
     boost::shared_ptr<VMFile> const added(
         new VMFile(Range<long long>(0, 10), project->weak(), source, 0));
-    source->timeline()->visualMixer()->trackAtIndex(0)->addMedia(added, 500);
+    boost::shared_ptr<Track> const track = source->timeline()->visualMixer()->trackAtIndex(0);
+    track->addMedia(added, 500);
     source->changeFile("fake:new");
     EXPECT_EQ("fake:new", added->fileName());
+    // It owns the source, whose timeline owned it.
+    track->removeMedia(added, false);
 }
 
 }  // namespace

@@ -92,6 +92,18 @@ TEST_F(EdgeTransformTest, TheRightEdgeRunsUpToTheEnd)
     EXPECT_DOUBLE_EQ(0, opacityAt(100));
 }
 
+TEST_F(EdgeTransformTest, AnEdgeOfOneUnitBendsUpToThere)
+{
+    fadeIn(1);
+    fadeOut(1);
+    EXPECT_EQ(0, opacityAt(0));
+    EXPECT_DOUBLE_EQ(0.4, opacityAt(0.5));
+    EXPECT_EQ(0.8, opacityAt(1));
+    EXPECT_EQ(0.8, opacityAt(99));
+    EXPECT_DOUBLE_EQ(0.4, opacityAt(99.5));
+    EXPECT_EQ(0, opacityAt(100));
+}
+
 TEST_F(EdgeTransformTest, NeitherEdgeHasTheTimeAtItsInnerEnd)
 {
     HostFunc const doubling([](double, double value) { return 2 * value; });

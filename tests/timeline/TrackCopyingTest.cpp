@@ -186,6 +186,17 @@ TEST_F(TrackCopyingTest, EdgesThatTheRangeLeavesWholeStay)
     EXPECT_EQ(30, copied->rightEdgeModificationLength());
 }
 
+TEST_F(TrackCopyingTest, ACopyKeepsOfAnEdgeWhatCouldBeSeenOfIt)
+{
+    given("V1: aaaaaaaaaa");
+    fade(150, 0);
+    EXPECT_EQ(100, media("V1.a")->leftEdgeModificationLength());
+    boost::shared_ptr<Media> const copied = first(copyOf(0, 100));
+    copied->trimEnd(-60);
+    EXPECT_EQ(Range<long long>(0, 160), copied->trackRange());
+    EXPECT_EQ(100, copied->leftEdgeModificationLength());
+}
+
 TEST_F(TrackCopyingTest, ALeftEdgeThatTheRangeCutsThroughIsLeftOut)
 {
     given("V1: aaaaaaaaaa");
