@@ -158,6 +158,7 @@ TEST_F(LinkUtilTest, EmptyTracksAreTiedToNone)
     given("A1: aaa / V1: aaa / V2: bbb / V3: ...ccc");
     Tracks const both{track("V1"), track("V3")};
     EXPECT_EQ(both, thinned(15, both));
+    EXPECT_EQ(both, thinned(45, both));
 }
 
 TEST_F(LinkUtilTest, ATrackTiedToOneTakenBeforeIsLeftOut)

@@ -143,6 +143,13 @@ TEST(TransformMatrixTest, InvertsVerySmallScales)
     EXPECT_EQ(1, inverse.at(3, 3));
 }
 
+TEST(TransformMatrixTest, InvertsVeryLargeScales)
+{
+    double const large = std::ldexp(1.0, 300);
+    EXPECT_EQ(TransformMatrix::scale(1 / large, 0.5, 1),
+              TransformMatrix::scale(large, 2, 1).inverse());
+}
+
 TEST(TransformMatrixTest, ASingularMatrixHasNoFiniteInverse)
 {
     EXPECT_FALSE(std::isfinite(TransformMatrix::scale(1, 1, 0).inverse().at(0, 0)));

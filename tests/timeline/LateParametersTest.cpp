@@ -334,6 +334,24 @@ TEST_F(LateParametersTest, ACopyTakesOverTheNameOfAWholeVector)
     EXPECT_EQ("pivot", sharedClone(picture)->anchor()->identAttribute()->value());
 }
 
+TEST_F(LateParametersTest, ACopyTakesOverTheOnlyParameterThatWasTouched)
+{
+    picture->scale()->at(2)->changeKeyFrame(0, 3.0);
+    boost::shared_ptr<VisualMedia> const scaled = sharedClone(picture);
+    EXPECT_EQ(3.0, scaled->scale()->at(2)->valueAtTime(0));
+    EXPECT_EQ(1.0, scaled->scale()->at(1)->valueAtTime(0));
+    EXPECT_EQ(0.0, scaled->translation()->at(0)->valueAtTime(0));
+}
+
+TEST_F(LateParametersTest, ACopyTakesOverTheOnlyCropThatWasTouched)
+{
+    picture->geometryCropParam()->at(3)->changeKeyFrame(0, 7.0);
+    boost::shared_ptr<VisualMedia> const copy = sharedClone(picture);
+    EXPECT_EQ(7.0, copy->geometryCropParam()->at(3)->valueAtTime(0));
+    EXPECT_EQ(0.0, copy->sourceCropParam()->at(3)->valueAtTime(0));
+    EXPECT_EQ(1.0, copy->opacity()->valueAtTime(0));
+}
+
 TEST_F(LateParametersTest, ACopyHasTheKeyFramesNobodyHasReadYet)
 {
     picture->opacity()->addKeyFrame(20, 0.5);
