@@ -18,12 +18,6 @@ namespace {
 using test::FakeProject;
 using test::xmlOf;
 
-class DecimalComma : public std::numpunct<char>
-{
-protected:
-    char do_decimal_point() const override { return ','; }
-};
-
 class InterpolatingParamTest : public ::testing::Test
 {
 protected:
@@ -193,18 +187,6 @@ TEST_F(InterpolatingParamTest, WritesValuesInTheirStreamForm)
     boost::shared_ptr<InterpolatingParam<float>> const number = newParam<float>("f");
     number->addKeyFrame(0, 0.1f);
     EXPECT_NE(std::string::npos, xmlOf(*number).find("time=\"0\" value=\"0.1\"/>"));
-}
-
-TEST_F(InterpolatingParamTest, WritesValuesInTheLocaleOfTheProcessWhateverTheStreams)
-{
-    boost::shared_ptr<InterpolatingParam<double>> const number = newParam<double>("d");
-    number->addKeyFrame(0, 2.5);
-    std::ostringstream out;
-    std::locale const before =
-        std::locale::global(std::locale(std::locale::classic(), new DecimalComma));
-    number->toXML(out);
-    std::locale::global(before);
-    EXPECT_NE(std::string::npos, out.str().find("time=\"0\" value=\"2,5\"/>"));
 }
 
 TEST_F(InterpolatingParamTest, OnlyOfNumbersIsItKnownThatTheyAreUntouched)
