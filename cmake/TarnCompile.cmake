@@ -9,6 +9,7 @@ target_compile_options(
 
 if(TARN_SANITIZE)
     target_compile_options(tarn_compile INTERFACE -fsanitize=${TARN_SANITIZE} -fno-omit-frame-pointer)
+    target_compile_definitions(tarn_compile INTERFACE TARN_SANITIZE)
     target_link_options(tarn_compile INTERFACE -fsanitize=${TARN_SANITIZE})
     if(TARN_SANITIZE MATCHES "undefined")
         target_compile_options(tarn_compile INTERFACE -fno-sanitize-recover=all)

@@ -22,7 +22,7 @@ namespace tarn {
 
 namespace {
 
-using Clones = std::vector<boost::shared_ptr<Media>>;
+using Clones = std::vector<boost::shared_ptr<Media const>>;
 using OriginalTracks = std::map<boost::shared_ptr<Track const>, boost::shared_ptr<Track const>>;
 
 template <class T>
@@ -78,30 +78,40 @@ void genTrackPositions(Timeline const& timeline, MediaCloneMap const& clones,
                        Clipping::TrackPositions* positions)
 {
     OriginalTracks tracks;
+    boost::shared_ptr<Track const> last;
     for (MediaCloneMap::value_type const& entry : clones) {
+        // All that lie on one track are copies from one track.
+        if (last && entry.second->isPlacedOn(last))
+            continue;
         boost::shared_ptr<Track const> const original = lockTrack(entry.first->parentTrack());
-        tracks[lockTrack(entry.second->parentTrack())] = original;
+        last = lockTrack(entry.second->parentTrack());
+        tracks[last] = original;
     }
     genTrackPositions(timeline, tracks, positions);
 }
 
 void sortClonesByTrackStart(MediaCloneMap const& map, Clones* clones)
 {
-    using StartAndClone = std::pair<long long, boost::shared_ptr<Media>>;
+    using StartAndClone = std::pair<long long, boost::shared_ptr<Media> const*>;
     std::vector<StartAndClone> sorted;
+    sorted.reserve(map.size());
     for (MediaCloneMap::value_type const& entry : map)
-        sorted.emplace_back(entry.second->trackRange().start, entry.second);
+        sorted.emplace_back(entry.second->trackRange().start, &entry.second);
     std::sort(sorted.begin(), sorted.end(),
               [](StartAndClone const& a, StartAndClone const& b) { return a.first < b.first; });
-    for (StartAndClone& entry : sorted)
-        clones->push_back(std::move(entry.second));
+    for (StartAndClone const& entry : sorted)
+        clones->push_back(*entry.second);
 }
 
 // The earliest first, so that no clone meets one that has still to move.
 void moveClonesBack(long long offset, Clones* clones)
 {
-    for (boost::shared_ptr<Media> const& clone : *clones)
-        lockTrack(clone->parentTrack())->move(clone, saturatedDifference(0, offset), false);
+    boost::shared_ptr<Track> track;
+    for (boost::shared_ptr<Media const> const& clone : *clones) {
+        if (!track || !clone->isPlacedOn(track))
+            track = boost::const_pointer_cast<Track>(lockTrack(clone->parentTrack()));
+        track->move(clone, saturatedDifference(0, offset), false);
+    }
 }
 
 void shiftClonesToZero(MediaCloneMap const& map)

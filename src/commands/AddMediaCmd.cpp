@@ -8,19 +8,20 @@
 #include "timeline/Track.h"
 
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
-AddMediaCmd::AddMediaCmd(boost::shared_ptr<Track const> const& track,
-                         boost::shared_ptr<Media const> const& media, long long time)
-    : m_track(track), m_media(media), m_time(time), m_oldStart(0)
+AddMediaCmd::AddMediaCmd(boost::shared_ptr<Track const> track, boost::shared_ptr<Media const> media,
+                         long long time)
+    : m_track(std::move(track)), m_media(std::move(media)), m_time(time), m_oldStart(0)
 {}
 
-boost::shared_ptr<AddMediaCmd> AddMediaCmd::create(boost::shared_ptr<Track const> const& track,
-                                                   boost::shared_ptr<Media const> const& media,
+boost::shared_ptr<AddMediaCmd> AddMediaCmd::create(boost::shared_ptr<Track const> track,
+                                                   boost::shared_ptr<Media const> media,
                                                    long long time)
 {
-    return OnePiece<AddMediaCmd>::make(track, media, time);
+    return OnePiece<AddMediaCmd>::make(std::move(track), std::move(media), time);
 }
 
 AddMediaCmd* AddMediaCmd::clone() const

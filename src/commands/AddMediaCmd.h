@@ -19,8 +19,8 @@ class TARN_API AddMediaCmd : public Command
 {
 public:
     /// `time` is where the media will start, edit units on the track's clock.
-    static boost::shared_ptr<AddMediaCmd> create(boost::shared_ptr<Track const> const& track,
-                                                 boost::shared_ptr<Media const> const& media,
+    static boost::shared_ptr<AddMediaCmd> create(boost::shared_ptr<Track const> track,
+                                                 boost::shared_ptr<Media const> media,
                                                  long long time);
 
     AddMediaCmd* clone() const override;
@@ -33,8 +33,8 @@ public:
 private:
     friend class OnePiece<AddMediaCmd>;
 
-    AddMediaCmd(boost::shared_ptr<Track const> const& track,
-                boost::shared_ptr<Media const> const& media, long long time);
+    AddMediaCmd(boost::shared_ptr<Track const> track, boost::shared_ptr<Media const> media,
+                long long time);
 
     boost::shared_ptr<Track const> m_track;
     boost::shared_ptr<Media const> m_media;

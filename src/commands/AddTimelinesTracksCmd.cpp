@@ -21,6 +21,7 @@ namespace {
 ConstMediaVector mediasOf(Track const& track)
 {
     ConstMediaVector medias;
+    medias.reserve(track.numMedias());
     for (auto it = track.mediaBegin(), end = track.mediaEnd(); it != end; ++it)
         medias.push_back(it->second);
     return medias;
@@ -88,10 +89,10 @@ void AddTimelinesTracksCmd<T>::executeCommands(CommandHandler const*)
 template <class T>
 void AddTimelinesTracksCmd<T>::addTrackMedias(TrackMap const& trackMap)
 {
+    boost::shared_ptr<Track const> const destination = trackMap.second;
     for (boost::shared_ptr<Media const> const& media : mediasOf(*trackMap.first)) {
-        boost::shared_ptr<Media> const clone = sharedClone<Media>(media);
-        m_addedMedias.push_back(clone);
-        MultiCommand::execute(AddMediaCmd::create(trackMap.second, clone,
+        m_addedMedias.push_back(sharedClone<Media>(media));
+        MultiCommand::execute(AddMediaCmd::create(destination, m_addedMedias.back(),
                                                   saturatedSum(media->trackRange().start, m_time)));
     }
 }

@@ -1,12 +1,13 @@
 #include "commands/AtomicEditCmd.h"
 
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
-AtomicEditCmd::AtomicEditCmd(boost::shared_ptr<Track const> const& track,
-                             boost::shared_ptr<Media const> const& media, long long offset)
-    : m_track(track), m_media(media), m_offset(offset)
+AtomicEditCmd::AtomicEditCmd(boost::shared_ptr<Track const> track,
+                             boost::shared_ptr<Media const> media, long long offset)
+    : m_track(std::move(track)), m_media(std::move(media)), m_offset(offset)
 {}
 
 void AtomicEditCmd::xmlAttributes(XMLable::Options& options) const

@@ -18,8 +18,8 @@ public:
 
 protected:
     /// `offset` is relative, in edit units on the track's clock.
-    AtomicEditCmd(boost::shared_ptr<Track const> const& track,
-                  boost::shared_ptr<Media const> const& media, long long offset);
+    AtomicEditCmd(boost::shared_ptr<Track const> track, boost::shared_ptr<Media const> media,
+                  long long offset);
 
     boost::shared_ptr<Track const> const& track() const { return m_track; }
     boost::shared_ptr<Media const> const& media() const { return m_media; }

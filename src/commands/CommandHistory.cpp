@@ -111,22 +111,20 @@ CommandHistory* CommandHistory::clone() const
     return new CommandHistory(*this);
 }
 
-bool CommandHistory::execute(boost::shared_ptr<Command> const& command)
+bool CommandHistory::execute(boost::shared_ptr<Command> command)
 {
     if (!command) {
         throw TarnMediaLibException("no command to execute");
     }
-    // A share of its own, as the caller may lose his meanwhile; and room for it, so that nothing
-    // can fail between the command's work and its record.
-    boost::shared_ptr<Command> executed = command;
+    // Room for it, so that nothing can fail between the command's work and its record.
     m_commands.makeRoom();
     {
         Run const run(*this);
-        if (!executed->execute(m_handler)) {
+        if (!command->execute(m_handler)) {
             return false;
         }
     }
-    m_commands.pushUndo(std::move(executed));
+    m_commands.pushUndo(std::move(command));
     m_commands.clearRedo();
     removeExcessCommands();
     notify();

@@ -39,11 +39,12 @@ public:
     /// What commands are given from now on; not owned.
     void setCommandHandler(CommandHandler* handler) { m_handler = handler; }
 
-    /// Runs a command and records it, which drops what could be redone.
+    /// Runs a command and records it, which drops what could be redone. It holds a share of its own
+    /// while it runs, as the caller may lose his.
     /// @return false when the command found nothing to do; nothing has changed then
     /// @throws TarnMediaLibException for an empty pointer, and what the command throws; it is not
     ///         recorded then
-    bool execute(boost::shared_ptr<Command> const& command);
+    bool execute(boost::shared_ptr<Command> command);
     /// @throws TarnMediaLibException "no commands to undo", and what the command throws
     void undo();
     /// Does not apply the undo limit.

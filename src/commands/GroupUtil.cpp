@@ -33,7 +33,7 @@ ConstMediaVector group(boost::shared_ptr<Media const> const& media)
 
 bool hasLinks(boost::shared_ptr<Media const> const& media)
 {
-    return media->mayBeLinked() && media->linkBegin() != media->linkEnd();
+    return !media->isUnlinked();
 }
 
 boost::shared_ptr<Track const> parentTrack(boost::shared_ptr<Media const> const& media)

@@ -8,19 +8,19 @@
 #include "timeline/Track.h"
 
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
-MoveCmd::MoveCmd(boost::shared_ptr<Track const> const& track,
-                 boost::shared_ptr<Media const> const& media, long long offset)
-    : AtomicEditCmd(track, media, offset)
+MoveCmd::MoveCmd(boost::shared_ptr<Track const> track, boost::shared_ptr<Media const> media,
+                 long long offset)
+    : AtomicEditCmd(std::move(track), std::move(media), offset)
 {}
 
-boost::shared_ptr<MoveCmd> MoveCmd::create(boost::shared_ptr<Track const> const& track,
-                                           boost::shared_ptr<Media const> const& media,
-                                           long long offset)
+boost::shared_ptr<MoveCmd> MoveCmd::create(boost::shared_ptr<Track const> track,
+                                           boost::shared_ptr<Media const> media, long long offset)
 {
-    return OnePiece<MoveCmd>::make(track, media, offset);
+    return OnePiece<MoveCmd>::make(std::move(track), std::move(media), offset);
 }
 
 MoveCmd* MoveCmd::clone() const

@@ -14,8 +14,8 @@ class TARN_API MoveCmd : public AtomicEditCmd
 {
 public:
     /// `offset` is relative, in edit units on the track's clock.
-    static boost::shared_ptr<MoveCmd> create(boost::shared_ptr<Track const> const& track,
-                                             boost::shared_ptr<Media const> const& media,
+    static boost::shared_ptr<MoveCmd> create(boost::shared_ptr<Track const> track,
+                                             boost::shared_ptr<Media const> media,
                                              long long offset);
 
     MoveCmd* clone() const override;
@@ -29,8 +29,8 @@ public:
 private:
     friend class OnePiece<MoveCmd>;
 
-    MoveCmd(boost::shared_ptr<Track const> const& track,
-            boost::shared_ptr<Media const> const& media, long long offset);
+    MoveCmd(boost::shared_ptr<Track const> track, boost::shared_ptr<Media const> media,
+            long long offset);
 };
 
 }  // namespace tarn

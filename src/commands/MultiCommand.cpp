@@ -4,6 +4,8 @@
 
 #include <boost/make_shared.hpp>
 
+#include <utility>
+
 namespace tarn {
 
 MultiCommand::MultiCommand()
@@ -54,9 +56,9 @@ bool MultiCommand::reexecute(CommandHandler* handler)
     return true;
 }
 
-bool MultiCommand::execute(boost::shared_ptr<Command> const& command)
+bool MultiCommand::execute(boost::shared_ptr<Command> command)
 {
-    return m_history->execute(command);
+    return m_history->execute(std::move(command));
 }
 
 std::size_t MultiCommand::numUndoCommands() const

@@ -25,7 +25,7 @@ public:
 
     /// Runs a command as the next part of this one.
     /// @return false when it found nothing to do
-    bool execute(boost::shared_ptr<Command> const& command);
+    bool execute(boost::shared_ptr<Command> command);
 
     std::size_t numUndoCommands() const;
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <boost/make_shared.hpp>
+#include <boost/pool/singleton_pool.hpp>
 #include <boost/shared_ptr.hpp>
 
+#include <cstddef>
 #include <memory>
 #include <new>
 #include <utility>
@@ -11,6 +13,10 @@ namespace tarn {
 
 /// Makes a command and the count of its owners in one piece of memory. The command's constructor
 /// may be private: this is then its friend.
+///
+/// The pieces of each kind lie side by side in a pool of the process. From the heap they would come
+/// to lie in whatever holes the model has left, far from each other and cold. The pool keeps what
+/// is given back for the next commands of the kind.
 template <class T>
 class OnePiece : public std::allocator<T>
 {
@@ -32,11 +38,36 @@ public:
         return boost::allocate_shared<T>(OnePiece(), std::forward<Args>(args)...);
     }
 
+#ifndef TARN_SANITIZE  // whose sanitizers would not see into a pool
+    /// For one at a time, which is all that make() asks for.
+    T* allocate(std::size_t)
+    {
+        static_assert(alignof(T) <= alignof(void*), "the pool aligns for pointers");
+        void* const place = (Pool<T>::malloc)();
+        if (!place)
+            throw std::bad_alloc();
+        return static_cast<T*>(place);
+    }
+    void deallocate(T* place, std::size_t)
+    {
+        (Pool<T>::free)(place);
+    }
+#endif
+
     template <class... Args>
     void construct(T* place, Args&&... args)
     {
         ::new (static_cast<void*>(place)) T(std::forward<Args>(args)...);
     }
+
+private:
+    static unsigned int constexpr k_piecesATime = 64;
+
+    // By the name of U only where something is made: T may still be without a size here.
+    template <class U>
+    using Pool =
+        boost::singleton_pool<OnePiece, sizeof(U), boost::default_user_allocator_new_delete,
+                              boost::details::pool::default_mutex, k_piecesATime, k_piecesATime>;
 };
 
 }  // namespace tarn

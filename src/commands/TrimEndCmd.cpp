@@ -8,19 +8,20 @@
 #include "timeline/Track.h"
 
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
-TrimEndCmd::TrimEndCmd(boost::shared_ptr<Track const> const& track,
-                       boost::shared_ptr<Media const> const& media, long long offset)
-    : AtomicEditCmd(track, media, offset)
+TrimEndCmd::TrimEndCmd(boost::shared_ptr<Track const> track, boost::shared_ptr<Media const> media,
+                       long long offset)
+    : AtomicEditCmd(std::move(track), std::move(media), offset)
 {}
 
-boost::shared_ptr<TrimEndCmd> TrimEndCmd::create(boost::shared_ptr<Track const> const& track,
-                                                 boost::shared_ptr<Media const> const& media,
+boost::shared_ptr<TrimEndCmd> TrimEndCmd::create(boost::shared_ptr<Track const> track,
+                                                 boost::shared_ptr<Media const> media,
                                                  long long offset)
 {
-    return OnePiece<TrimEndCmd>::make(track, media, offset);
+    return OnePiece<TrimEndCmd>::make(std::move(track), std::move(media), offset);
 }
 
 TrimEndCmd* TrimEndCmd::clone() const

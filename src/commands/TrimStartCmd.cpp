@@ -8,19 +8,20 @@
 #include "timeline/Track.h"
 
 #include <ostream>
+#include <utility>
 
 namespace tarn {
 
-TrimStartCmd::TrimStartCmd(boost::shared_ptr<Track const> const& track,
-                           boost::shared_ptr<Media const> const& media, long long offset)
-    : AtomicEditCmd(track, media, offset)
+TrimStartCmd::TrimStartCmd(boost::shared_ptr<Track const> track,
+                           boost::shared_ptr<Media const> media, long long offset)
+    : AtomicEditCmd(std::move(track), std::move(media), offset)
 {}
 
-boost::shared_ptr<TrimStartCmd> TrimStartCmd::create(boost::shared_ptr<Track const> const& track,
-                                                     boost::shared_ptr<Media const> const& media,
+boost::shared_ptr<TrimStartCmd> TrimStartCmd::create(boost::shared_ptr<Track const> track,
+                                                     boost::shared_ptr<Media const> media,
                                                      long long offset)
 {
-    return OnePiece<TrimStartCmd>::make(track, media, offset);
+    return OnePiece<TrimStartCmd>::make(std::move(track), std::move(media), offset);
 }
 
 TrimStartCmd* TrimStartCmd::clone() const

@@ -16,8 +16,8 @@ class TARN_API TrimStartCmd : public AtomicEditCmd
 {
 public:
     /// `offset` is relative, in edit units on the track's clock.
-    static boost::shared_ptr<TrimStartCmd> create(boost::shared_ptr<Track const> const& track,
-                                                  boost::shared_ptr<Media const> const& media,
+    static boost::shared_ptr<TrimStartCmd> create(boost::shared_ptr<Track const> track,
+                                                  boost::shared_ptr<Media const> media,
                                                   long long offset);
 
     TrimStartCmd* clone() const override;
@@ -31,8 +31,8 @@ public:
 private:
     friend class OnePiece<TrimStartCmd>;
 
-    TrimStartCmd(boost::shared_ptr<Track const> const& track,
-                 boost::shared_ptr<Media const> const& media, long long offset);
+    TrimStartCmd(boost::shared_ptr<Track const> track, boost::shared_ptr<Media const> media,
+                 long long offset);
 };
 
 }  // namespace tarn

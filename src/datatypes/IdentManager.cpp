@@ -6,6 +6,39 @@
 
 namespace tarn {
 
+namespace {
+
+// In blocks of a fixed size, of which a compiler makes a few wide moves each.
+std::size_t constexpr k_block = 8;
+
+/// Copies what stands before `end`, the last first.
+void copyBackwards(unsigned int const* __restrict end, unsigned int* __restrict copy,
+                   std::size_t count)
+{
+    for (; count >= k_block; count -= k_block) {
+        end -= k_block;
+        for (std::size_t i = 0; i < k_block; ++i) {
+            copy[i] = end[k_block - 1 - i];
+        }
+        copy += k_block;
+    }
+    std::reverse_copy(end - count, end, copy);
+}
+
+void countUp(unsigned int first, unsigned int* numbers, std::size_t count)
+{
+    for (; count >= k_block; count -= k_block) {
+        for (unsigned int i = 0; i < k_block; ++i) {
+            numbers[i] = first + i;
+        }
+        numbers += k_block;
+        first += static_cast<unsigned int>(k_block);
+    }
+    std::iota(numbers, numbers + count, first);
+}
+
+}  // namespace
+
 IdentManager* IdentManager::instance()
 {
     static IdentManager* const s_instance = new IdentManager;
@@ -29,12 +62,9 @@ void IdentManager::newIdents(unsigned int* idents, std::size_t count)
     std::lock_guard<std::mutex> const guard(m_mutex);
     std::size_t const reused = std::min(count, m_retiredIdents.size());
     makeRoomFor(count - reused);
-    unsigned int const* const newest = m_retiredIdents.data() + m_retiredIdents.size();
-    for (std::size_t i = 0; i < reused; ++i) {
-        idents[i] = *(newest - 1 - i);
-    }
+    copyBackwards(m_retiredIdents.data() + m_retiredIdents.size(), idents, reused);
     m_retiredIdents.resize(m_retiredIdents.size() - reused);
-    std::iota(idents + reused, idents + count, m_nextIdent);
+    countUp(m_nextIdent, idents + reused, count - reused);
     m_nextIdent += static_cast<unsigned int>(count - reused);
 }
 

@@ -3,6 +3,9 @@
 #include "parameters/Attribute.h"
 #include "project/ReadWriteMutex.h"
 
+#include <boost/smart_ptr/bad_weak_ptr.hpp>
+#include <boost/throw_exception.hpp>
+
 namespace tarn {
 
 Identified::Identified(boost::weak_ptr<ThreadSafe const> const& project, std::string const& text,
@@ -11,7 +14,7 @@ Identified::Identified(boost::weak_ptr<ThreadSafe const> const& project, std::st
 {}
 
 Identified::Identified(Identified const& other)
-    : Identified(other.m_identProject, other.identText())
+    : Identified(other.m_identProject, other.textToCopy())
 {}
 
 Identified::~Identified() = default;
@@ -43,6 +46,17 @@ std::string Identified::identText() const
     // Whoever made the attribute meanwhile cannot have written to it before this lock was taken,
     // or the write would have been seen here.
     return isIdentAttributeMade() ? attribute()->value() : m_firstText;
+}
+
+/// While there is no attribute the text is fixed, and needs no lock to be read: what the attribute
+/// will say had not been said yet when it was asked for.
+std::string Identified::textToCopy() const
+{
+    if (isIdentAttributeMade())
+        return attribute()->value();
+    if (m_identProject.expired())
+        boost::throw_exception(boost::bad_weak_ptr());
+    return m_firstText;
 }
 
 void Identified::xmlOfIdent(XMLable::Options& options, int indent) const

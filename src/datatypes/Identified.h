@@ -40,6 +40,7 @@ protected:
 
 private:
     boost::shared_ptr<Attribute<std::string>> const& attribute() const;
+    std::string textToCopy() const;
 
     boost::weak_ptr<ThreadSafe const> m_identProject;
     // The text while nobody has asked for the attribute, as for most nobody ever does.

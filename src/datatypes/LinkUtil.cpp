@@ -49,8 +49,6 @@ bool tracksHaveLinksAtTime(long long time, Track const& first, Track const& seco
 
 void addLinkedTracks(Media const& media, TrackSet* tracks)
 {
-    if (media.isUnlinked())
-        return;
     ConstIterator<Media::LinkList> const end = media.linkEnd();
     for (ConstIterator<Media::LinkList> it = media.linkBegin(); it != end; ++it) {
         boost::shared_ptr<Track const> const track = lockLink(*it)->parentTrack().lock();
@@ -90,9 +88,8 @@ void tracksAffectedByRangeWithLinks(Range<long long> const& range, TrackSet cons
 {
     for (boost::shared_ptr<Track const> const& track : tracks) {
         result->insert(track);
-        boost::shared_ptr<std::list<boost::shared_ptr<Media const>>> const medias =
-            track->mediasIntersectingRange(range, boost::shared_ptr<Media const>());
-        for (boost::shared_ptr<Media const> const& media : *medias)
+        for (boost::shared_ptr<Media const> const& media :
+             track->linkedMediasIntersectingRange(range))
             addLinkedTracks(*media, result);
     }
 }

@@ -80,7 +80,9 @@ private:
 void NotifyDelay::Queue::Entry::count(int change) const
 {
     if (subject) {
-        subject->m_queueCount += change;
+        // Only the queue writes it, under its mutex: there is nobody to race with in between.
+        int const count = subject->m_queueCount.load(std::memory_order_relaxed);
+        subject->m_queueCount.store(count + change, std::memory_order_relaxed);
     }
 }
 
@@ -88,7 +90,9 @@ void NotifyDelay::Queue::add(Entry const& entry)
 {
     std::lock_guard<std::mutex> const guard(m_mutex);
     try {
-        makeRoom(1);
+        if (m_entries.size() + 1 + m_numObserved > m_entries.capacity()) {
+            makeRoom(1);
+        }
     } catch (std::bad_alloc const&) {
         if (!entry.subject) {
             throw;
@@ -306,6 +310,16 @@ void NotifyDelay::addObservable(Observable const* observable)
 void NotifyDelay::addObservable(Subject const* subject)
 {
     queue().add(Queue::Entry{subject, subject});
+}
+
+bool NotifyDelay::holdBack(Subject const* subject)
+{
+    Queue& waiting = queue();
+    if (waiting.s_refCount <= 0) {
+        return false;
+    }
+    waiting.add(Queue::Entry{subject, subject});
+    return true;
 }
 
 void NotifyDelay::removeObservable(Observable const* observable)

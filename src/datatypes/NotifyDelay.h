@@ -40,6 +40,8 @@ private:
     struct Queue;
 
     static Queue& queue();
+    /// Queues a notification if a delay is open. @return false when none is
+    static bool holdBack(Subject const* subject);
     static void deliver();
     /// For each subject that comes to be observed, and that is no more: room in the queue which is
     /// there when memory is not.

@@ -61,8 +61,7 @@ void Subject::notify() const
     if (m_disableCount > 0) {
         return;
     }
-    if (NotifyDelay::isActive()) {
-        NotifyDelay::addObservable(this);
+    if (NotifyDelay::holdBack(this)) {
         return;
     }
     if (m_observers) {

@@ -39,6 +39,11 @@ struct Transformer::Components
     double const* shear() const { return values + k_shear; }
     double const* scale() const { return values + k_scale; }
     double const* anchor() const { return values + k_anchor; }
+    TransformMatrix transform() const
+    {
+        return GraphicsUtil::calcTransformFromComponents(scale(), translation(), rotation(),
+                                                         shear(), anchor());
+    }
 };
 
 Transformer::Transformer(boost::weak_ptr<ThreadSafe const> const& project)
@@ -60,7 +65,7 @@ Transformer::Transformer(Transformer const& other)
 {}
 
 Transformer::Transformer(Transformer const& other, IdentBatch idents)
-    : m_project(other.m_project.projectMutex())
+    : m_project(other.m_project)
     , m_translation(other.m_translation, idents.take(m_translation.k_numIdents))
     , m_rotation(other.m_rotation, idents.take(m_rotation.k_numIdents))
     , m_shear(other.m_shear, idents.take(m_shear.k_numIdents))
@@ -108,12 +113,26 @@ void Transformer::load(Parametric const& owner, long long time, unsigned int wan
         storeOthers(owner, static_cast<double>(time), wanted, 0, components.values);
 }
 
+void Transformer::loadUnderLock(Parametric const& owner, long long time, unsigned int wanted,
+                                Components& components) const
+{
+    storeConstants(owner, wanted, 0, components.values);
+    if (wanted != 0)
+        storeOthers(owner, static_cast<double>(time), wanted, 0, components.values);
+}
+
 TransformMatrix Transformer::calcTransformAtTime(Parametric const* owner, long long time) const
 {
     Components now;
     load(*owner, time, k_everything, now);
-    return GraphicsUtil::calcTransformFromComponents(now.scale(), now.translation(), now.rotation(),
-                                                     now.shear(), now.anchor());
+    return now.transform();
+}
+
+TransformMatrix Transformer::calcTransformUnderLock(Parametric const* owner, long long time) const
+{
+    Components now;
+    loadUnderLock(*owner, time, k_everything, now);
+    return now.transform();
 }
 
 TransformMatrix Transformer::calcTransformAtTimeWithScale(Parametric const* owner, long long time,

@@ -68,6 +68,9 @@ protected:
     /// How many components there are, in the order of addTransformerParametersToParameters().
     static int constexpr k_numComponents = 14;
 
+    /// calcTransformAtTime() for a caller who holds the read lock.
+    TransformMatrix calcTransformUnderLock(Parametric const* owner, long long time) const;
+
     /// Both steps of LateVectorParam, for all components, which stand from `first` on.
     void storeConstants(Parametric const& owner, unsigned int& wanted, int first,
                         double* values) const;
@@ -77,14 +80,23 @@ protected:
 private:
     struct Components;
 
+    /// What the project's lock is known by, to be copied as it is.
+    struct ProjectPart : SubProject
+    {
+        using SubProject::SubProject;
+        ProjectPart(ProjectPart const&) = default;
+    };
+
     Transformer(boost::weak_ptr<ThreadSafe const> const& project, IdentBatch idents);
     Transformer(Transformer const& other, IdentBatch idents);
     bool isUntouched() const;
 
     void load(Parametric const& owner, long long time, unsigned int wanted,
               Components& components) const;
+    void loadUnderLock(Parametric const& owner, long long time, unsigned int wanted,
+                       Components& components) const;
 
-    SubProject m_project;
+    ProjectPart m_project;
     LateVectorParam<3> m_translation;
     LateVectorParam<3> m_rotation;
     LateVectorParam<2> m_shear;

@@ -15,9 +15,9 @@ LateDoubleParam::LateDoubleParam(char const* name, double initial, unsigned int 
 LateDoubleParam::LateDoubleParam(LateDoubleParam const& other, unsigned int const* idents)
     : m_name(other.m_name)
     , m_initial(other.m_initial)
-    , m_param(other.isUntouched() ? Late(idents)
-                                  : Late(boost::shared_ptr<InterpolatingParam<double>>(
-                                        other.m_param.ifMade()->clone())))
+    , m_param(idents || other.isUntouched() ? Late(idents)
+                                            : Late(boost::shared_ptr<InterpolatingParam<double>>(
+                                                  other.m_param.ifMade()->clone())))
 {}
 
 bool LateDoubleParam::isUntouched() const

@@ -20,7 +20,8 @@ public:
     /// The name is a literal. Takes k_numIdents over, or draws them if there are none.
     LateDoubleParam(char const* name, double initial, unsigned int const* idents = nullptr);
     /// A copy of one that is as it was made is not made, and takes or draws its idents as above;
-    /// any other makes its own. The caller holds the read lock.
+    /// any other makes its own. Idents are given for one that isUntouched(). The caller holds the
+    /// read lock.
     LateDoubleParam(LateDoubleParam const& other, unsigned int const* idents = nullptr);
     LateDoubleParam& operator=(LateDoubleParam const& other) = delete;
 

@@ -29,7 +29,7 @@ template <int Count>
 LateVectorParam<Count>::LateVectorParam(LateVectorParam const& other, unsigned int const* idents)
     : m_name(other.m_name)
     , m_initial(other.m_initial)
-    , m_param(other.isUntouched()
+    , m_param(idents || other.isUntouched()
                   ? Late(idents)
                   : Late(boost::shared_ptr<VectorParam>(other.m_param.ifMade()->clone())))
 {}

@@ -49,7 +49,7 @@ private:
         }
     }
 
-    boost::shared_ptr<SourceBin> m_sourceBin;
+    boost::shared_ptr<SourceBin> const& m_sourceBin;
 };
 
 class RealGuard : public AddMediaGuard

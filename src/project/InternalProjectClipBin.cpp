@@ -17,7 +17,7 @@ void InternalProject::changeSourcesFile(boost::shared_ptr<Source const> const& s
 {
     boost::shared_ptr<InternalProject> const outlivesTheLock = weak_from_this().lock();
     ReadWriteMutex::ScopedWriteLock lock(mutex());
-    mutablePointer(source)->changeFile(newFile);
+    mutableObject(source).changeFile(newFile);
 }
 
 void InternalProject::addSourceBinSentry(boost::shared_ptr<SourceBinSentry> const& sentry)

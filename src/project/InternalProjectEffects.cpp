@@ -13,25 +13,25 @@ namespace tarn {
 int InternalProject::addEffect(boost::shared_ptr<Effectable const> const& effectable,
                                boost::shared_ptr<Effect const> const& effect)
 {
-    return mutablePointer(effectable)->addEffect(mutablePointer(effect));
+    return mutableObject(effectable).addEffect(mutablePointer(effect));
 }
 
 void InternalProject::insertEffect(boost::shared_ptr<Effectable const> const& effectable,
                                    boost::shared_ptr<Effect const> const& effect, int index)
 {
-    mutablePointer(effectable)->insertEffect(mutablePointer(effect), index);
+    mutableObject(effectable).insertEffect(mutablePointer(effect), index);
 }
 
 void InternalProject::swapEffectOrder(boost::shared_ptr<Effectable const> const& effectable,
                                       int index1, int index2)
 {
-    mutablePointer(effectable)->swapEffectOrder(index1, index2);
+    mutableObject(effectable).swapEffectOrder(index1, index2);
 }
 
 RemovedEffect InternalProject::removeEffect(boost::shared_ptr<Effectable const> const& effectable,
                                             boost::shared_ptr<Effect const> const& effect)
 {
-    return mutablePointer(effectable)->removeEffect(effect);
+    return mutableObject(effectable).removeEffect(effect);
 }
 
 void InternalProject::moveParameterKeyFrame(
@@ -39,7 +39,7 @@ void InternalProject::moveParameterKeyFrame(
     boost::shared_ptr<ParameterInterface const> const& parameter, long long from, long long to)
 {
     boost::shared_ptr<Parametric> const clock = mutablePointer(owner);
-    mutablePointer(parameter)->moveKeyFrame(
+    mutableObject(parameter).moveKeyFrame(
         clampedTruncate(clock->toParameterTime(static_cast<double>(from))),
         clampedTruncate(clock->toParameterTime(static_cast<double>(to))));
 }

@@ -106,22 +106,22 @@ boost::any InternalProject::removeParameterKeyFrame(
 void InternalProject::moveParameterKeyFrame(
     boost::shared_ptr<ParameterInterface const> const& parameter, long long from, long long to)
 {
-    mutablePointer(parameter)->moveKeyFrame(from, to);
+    mutableObject(parameter).moveKeyFrame(from, to);
 }
 
 void InternalProject::moveParameterKeyframes(
     boost::shared_ptr<ParameterInterface const> const& parameter, long long delta)
 {
-    mutablePointer(parameter)->moveKeyframes(delta);
+    mutableObject(parameter).moveKeyframes(delta);
 }
 
 boost::any InternalProject::changeAttribute(boost::shared_ptr<XMLable const> const& attribute,
                                             boost::any const& value)
 {
     boost::any old;
-    bool const isChanged = changedAsAny<float, double, unsigned int, std::string, Point,
-                                        Rect<float>, boost::shared_ptr<ScreenMetaData const>>(
-        *mutablePointer(attribute), value, old);
+    bool const isChanged =
+        changedAsAny<float, double, unsigned int, std::string, Point, Rect<float>,
+                     boost::shared_ptr<ScreenMetaData const>>(mutableObject(attribute), value, old);
     if (!isChanged)
         throw TypeException("attribute of an unknown type");
     return old;

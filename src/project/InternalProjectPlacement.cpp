@@ -68,7 +68,7 @@ void InternalProject::addMedia(boost::shared_ptr<Track const> const& track,
 {
     boost::shared_ptr<Media> const ownMedia = mutablePointer(media);
     AddMediaGuard::instance()->performGuard(m_sourceBin, media);
-    mutablePointer(track)->addMedia(ownMedia, time);
+    mutableObject(track).addMedia(ownMedia, time);
 }
 
 boost::shared_ptr<RemovedMedias> InternalProject::removeMedia(
@@ -92,44 +92,44 @@ void InternalProject::removeMedia(boost::shared_ptr<Track const> const& track,
                                   boost::shared_ptr<Media const> const& media, long long time)
 {
     boost::shared_ptr<Media> const ownMedia = mutablePointer(media);
-    mutablePointer(track)->removeMedia(ownMedia, false);
+    mutableObject(track).removeMedia(ownMedia, false);
     setStartOfParentless(ownMedia, time);
 }
 
 void InternalProject::move(boost::shared_ptr<Track const> const& track,
                            boost::shared_ptr<Media const> const& media, long long offset)
 {
-    mutablePointer(track)->move(media, offset, true);
+    mutableObject(track).move(media, offset, true);
 }
 
 void InternalProject::trimStart(boost::shared_ptr<Track const> const& track,
                                 boost::shared_ptr<Media const> const& media, long long offset)
 {
-    mutablePointer(track)->trimStart(media, offset, true);
+    mutableObject(track).trimStart(media, offset, true);
 }
 
 void InternalProject::trimEnd(boost::shared_ptr<Track const> const& track,
                               boost::shared_ptr<Media const> const& media, long long offset)
 {
-    mutablePointer(track)->trimEnd(media, offset, true);
+    mutableObject(track).trimEnd(media, offset, true);
 }
 
 double InternalProject::stretch(boost::shared_ptr<Track const> const& track,
                                 boost::shared_ptr<Media const> const& media, double scalar)
 {
-    return mutablePointer(track)->stretch(media, scalar, true);
+    return mutableObject(track).stretch(media, scalar, true);
 }
 
 void InternalProject::addLink(boost::shared_ptr<Media const> const& media,
                               boost::shared_ptr<Media const> const& other)
 {
-    mutablePointer(media)->addLink(boost::const_pointer_cast<Media>(other));
+    mutableObject(media).addLink(boost::const_pointer_cast<Media>(other));
 }
 
 void InternalProject::removeLink(boost::shared_ptr<Media const> const& media,
                                  boost::shared_ptr<Media const> const& other)
 {
-    mutablePointer(media)->removeLink(boost::const_pointer_cast<Media>(other));
+    mutableObject(media).removeLink(boost::const_pointer_cast<Media>(other));
 }
 
 }  // namespace tarn

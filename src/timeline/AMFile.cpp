@@ -90,16 +90,20 @@ AMFile::AMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> 
 
 AMFile::AMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
                boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
-               std::set<unsigned int> const& channels)
-    : AMFile(range, checkedTrack(source, trackNumber, channels), channels, project)
+               std::set<unsigned int> channels)
+    : AMFile(range, checkedTrack(source, trackNumber, channels), std::move(channels), project)
 {}
 
-AMFile::AMFile(Range<long long> const& range, SourceTrack const& track,
-               std::set<unsigned int> channels, boost::weak_ptr<ThreadSafe const> const& project)
-    : AudioMedia(range, track.sampleRate(), track.bitDepth(),
-                 static_cast<double>(track.timeRange().start),
-                 static_cast<double>(track.timeRange().end()), project)
-    , m_track(track)
+AMFile::AMFile(Range<long long> const& range, SourceTrack&& track,
+               std::set<unsigned int>&& channels, boost::weak_ptr<ThreadSafe const> const& project)
+    : AMFile(range, track.timeRange(), std::move(track), std::move(channels), project)
+{}
+
+AMFile::AMFile(Range<long long> const& range, Range<long long> const& limits, SourceTrack&& track,
+               std::set<unsigned int>&& channels, boost::weak_ptr<ThreadSafe const> const& project)
+    : AudioMedia(range, track.sampleRate(), track.bitDepth(), static_cast<double>(limits.start),
+                 static_cast<double>(limits.end()), project)
+    , m_track(std::move(track))
     , m_channels(std::move(channels))
 {}
 

@@ -23,7 +23,7 @@ public:
     ///         "trying to make a amfile with an invalid channels"
     AMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,
            boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
-           std::set<unsigned int> const& channels);
+           std::set<unsigned int> channels);
     /// Of a file known by name only; trims are bounded by `range` itself.
     AMFile(Range<long long> const& range, unsigned int sampleRate, unsigned int bitDepth,
            boost::weak_ptr<ThreadSafe const> const& project, std::string const& fileName,
@@ -71,8 +71,12 @@ protected:
 private:
     friend class MediaImpl;  // its cloneOf() copies
 
-    AMFile(Range<long long> const& range, SourceTrack const& track, std::set<unsigned int> channels,
+    /// Takes track and channels over.
+    AMFile(Range<long long> const& range, SourceTrack&& track, std::set<unsigned int>&& channels,
            boost::weak_ptr<ThreadSafe const> const& project);
+    /// `limits`: what the source offers.
+    AMFile(Range<long long> const& range, Range<long long> const& limits, SourceTrack&& track,
+           std::set<unsigned int>&& channels, boost::weak_ptr<ThreadSafe const> const& project);
     /// A complete copy but for the channels.
     AMFile(AMFile const& other, std::set<unsigned int> const& channels);
 

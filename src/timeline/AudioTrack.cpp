@@ -28,7 +28,9 @@ namespace tarn {
 class AudioTrack::MediaAdder : public MediaDispatcher
 {
 public:
-    MediaAdder(AudioTrack& track, long long time) : m_track(track), m_time(time) {}
+    MediaAdder(AudioTrack& track, boost::shared_ptr<Media> const& media, long long time)
+        : m_track(track), m_media(media), m_time(time)
+    {}
 
     void dispatchMedia(boost::shared_ptr<VMFile> const&) override
     {
@@ -36,7 +38,11 @@ public:
     }
     void dispatchMedia(boost::shared_ptr<AMFile> const& media) override
     {
-        m_track.addMedia<AMFile>(media, m_time);
+        // What was given serves, unless it sent another in its place: one share less to take.
+        if (media == m_media)
+            m_track.addMediaSansTypeCheck(m_media, m_time);
+        else
+            m_track.addMedia<AMFile>(media, m_time);
     }
     void dispatchMedia(boost::shared_ptr<IMFile> const&) override
     {
@@ -61,6 +67,7 @@ public:
 
 private:
     AudioTrack& m_track;
+    boost::shared_ptr<Media> const& m_media;
     long long m_time;
 };
 
@@ -87,7 +94,7 @@ void AudioTrack::receiveDispatcher(TrackDispatcher* dispatcher)
 
 void AudioTrack::addMedia(boost::shared_ptr<Media> const& media, long long time)
 {
-    MediaAdder adder(*this, time);
+    MediaAdder adder(*this, media, time);
     media->receiveDispatcher(&adder);
 }
 

@@ -111,6 +111,13 @@ public:
     {
         return m_keepsPlace ? !m_place.parent.expired() : !parentTrack().expired();
     }
+    bool isPlacedOn(boost::shared_ptr<Track const> const& track) const
+    {
+        // By their counts, which tells them apart without a share.
+        return m_keepsPlace
+                   ? !m_place.parent.owner_before(track) && !track.owner_before(m_place.parent)
+                   : parentTrack().lock() == track;
+    }
     bool mayBeLinked() const { return !m_keepsPlace || !m_place.links.empty(); }
     /// @}
 

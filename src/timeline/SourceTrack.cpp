@@ -8,6 +8,26 @@
 
 namespace tarn {
 
+/// The source while it is asked something: as it is held, or by a share of its own.
+class SourceTrack::SourceInUse
+{
+public:
+    explicit SourceInUse(SourceTrack const& track)
+        : m_share(track.m_strongSource ? boost::shared_ptr<Source const>() : track.source())
+        , m_source(track.m_strongSource ? track.m_strongSource.get() : m_share.get())
+    {}
+    SourceInUse(SourceInUse const&) = delete;
+    SourceInUse& operator=(SourceInUse const&) = delete;
+
+    explicit operator bool() const { return m_source != nullptr; }
+    Source const* get() const { return m_source; }
+    Source const* operator->() const { return m_source; }
+
+private:
+    boost::shared_ptr<Source const> m_share;
+    Source const* m_source;
+};
+
 SourceTrack::SourceTrack(boost::shared_ptr<Source const> const& source, unsigned int trackNumber,
                          char const* refusal)
     : m_strongSource(source), m_source(source), m_trackNumber(trackNumber)
@@ -32,7 +52,7 @@ boost::shared_ptr<Source const> SourceTrack::source() const
 
 std::string SourceTrack::fileName() const
 {
-    boost::shared_ptr<Source const> const source = this->source();
+    SourceInUse const source(*this);
     if (!source)
         return m_fileName;
     std::string const component = source->mediaFileStats()->filename(m_trackNumber);
@@ -41,13 +61,13 @@ std::string SourceTrack::fileName() const
 
 std::string SourceTrack::containerFileName() const
 {
-    boost::shared_ptr<Source const> const source = this->source();
+    SourceInUse const source(*this);
     return source ? source->mediaFileStats()->filename() : m_fileName;
 }
 
 bool SourceTrack::isInstanceOf(boost::shared_ptr<Source const> const& source) const
 {
-    return source && this->source() == source;
+    return source && SourceInUse(*this).get() == source.get();
 }
 
 void SourceTrack::holdSourceWeakly()
@@ -57,34 +77,34 @@ void SourceTrack::holdSourceWeakly()
 
 Range<long long> SourceTrack::timeRange() const
 {
-    return source()->timeRange();
+    return SourceInUse(*this)->timeRange();
 }
 
 Rect<float> SourceTrack::rect() const
 {
-    boost::shared_ptr<Source const> const source = this->source();
+    SourceInUse const source(*this);
     return source ? source->trackRect(m_trackNumber) : Rect<float>();
 }
 
 unsigned int SourceTrack::sampleRate() const
 {
-    return static_cast<unsigned int>(
-        boost::rational_cast<unsigned long>(source()->mediaFileStats()->sampleRate(m_trackNumber)));
+    return static_cast<unsigned int>(boost::rational_cast<unsigned long>(
+        SourceInUse(*this)->mediaFileStats()->sampleRate(m_trackNumber)));
 }
 
 unsigned int SourceTrack::bitDepth() const
 {
-    return source()->mediaFileStats()->bitDepth(m_trackNumber);
+    return SourceInUse(*this)->mediaFileStats()->bitDepth(m_trackNumber);
 }
 
 unsigned int SourceTrack::numChannels() const
 {
-    return source()->mediaFileStats()->numChannels(m_trackNumber);
+    return SourceInUse(*this)->mediaFileStats()->numChannels(m_trackNumber);
 }
 
 std::string SourceTrack::sourceXmlIdent() const
 {
-    boost::shared_ptr<Source const> const source = this->source();
+    SourceInUse const source(*this);
     return source ? std::to_string(source->xmlIdent()) : std::string();
 }
 

@@ -26,6 +26,7 @@ public:
                 char const* refusal);
     explicit SourceTrack(std::string const& fileName);
     SourceTrack(SourceTrack const& other);
+    SourceTrack(SourceTrack&& other) = default;
     SourceTrack& operator=(SourceTrack const& other) = delete;
 
     /// Empty when there is only a file name.
@@ -54,6 +55,8 @@ public:
     std::string sourceXmlIdent() const;
 
 private:
+    class SourceInUse;
+
     boost::shared_ptr<Source const> m_strongSource;
     boost::weak_ptr<Source const> m_source;
     unsigned int m_trackNumber;

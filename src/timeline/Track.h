@@ -175,6 +175,8 @@ public:
         Range<long long> const& range, boost::shared_ptr<Media const> const& excluded) const;
     boost::shared_ptr<MediaList> mediasIntersectingRange(
         Range<long long> const& range, boost::shared_ptr<Media const> const& excluded);
+    /// Those alone that have links, which are few.
+    ConstMediaVector linkedMediasIntersectingRange(Range<long long> const& range) const;
     bool intersectionAtRange(Range<long long> const& range) const;
     /// @}
 
@@ -256,6 +258,7 @@ private:
     MediaMap::iterator entryFreeToTake(boost::shared_ptr<Media const> const& media,
                                        Range<long long> const& range, bool includeLinks);
     void rekeyInPlace(MediaMap::iterator entry, long long newKey);
+    boost::weak_ptr<Track> ownedWeakly();
 
     void checkStartIsFree(boost::shared_ptr<Media const> const& media, long long newStart,
                           bool includeLinks) const;

@@ -4,6 +4,7 @@
 #include "datatypes/SaturatedArithmetic.h"
 #include "edgemods/EdgeModification.h"
 #include "project/ReadWriteMutex.h"
+#include "timeline/IntersectingMedias.h"
 #include "timeline/Media.h"
 
 #include <list>
@@ -63,7 +64,7 @@ void noteClone(MediaCloneMap* map, boost::shared_ptr<Media const> const& media,
                boost::shared_ptr<Media> const& clone)
 {
     if (map) {
-        map->insert(MediaCloneMap::value_type(media, clone));
+        map->emplace(media, clone);
     }
 }
 
@@ -95,16 +96,17 @@ boost::shared_ptr<Track> Track::copyPortion(Range<long long> const& range, Media
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
     boost::shared_ptr<Track> const copy(clone());
-    boost::shared_ptr<TrackSubSection<Media>> const portion = subSectionImpl(this, range);
-    for (TrackSubSection<Media>::MediaRange const& part : *portion) {
-        boost::shared_ptr<Media> const mediaClone = sharedClone<Media>(part.media);
+    visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const& media) {
+        Range<long long> const part = media->trackRange().intersection(range);
+        boost::shared_ptr<Media> const mediaClone = sharedClone<Media>(media);
         assertParentless(mediaClone);
-        mediaClone->trimStart(part.range.start - mediaClone->startTime());
-        mediaClone->trimEnd(mediaClone->endTime() - part.range.start - part.range.duration);
-        setupCloneEdgeMods(range, *part.media, *mediaClone);
+        mediaClone->trimStart(part.start - mediaClone->startTime());
+        mediaClone->trimEnd(mediaClone->endTime() - part.start - part.duration);
+        setupCloneEdgeMods(range, *media, *mediaClone);
         copy->addMedia(mediaClone, mediaClone->startTime());
-        noteClone(map, part.media, mediaClone);
-    }
+        noteClone(map, media, mediaClone);
+        return true;
+    });
     return copy;
 }
 

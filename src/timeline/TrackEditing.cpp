@@ -8,6 +8,8 @@
 #include "timeline/ParentedMedia.h"
 
 #include <boost/make_shared.hpp>
+#include <boost/smart_ptr/bad_weak_ptr.hpp>
+#include <boost/throw_exception.hpp>
 
 #include <iterator>
 #include <new>
@@ -117,6 +119,9 @@ void Track::rekeyInPlace(MediaMap::iterator entry, long long newKey)
         relocateMedia(boost::shared_ptr<Media>(media), entry->first, media->placedRange().start);
         return;
     }
+    if (entry->first == newKey) {
+        return;
+    }
     MediaMap::iterator const next = std::next(entry);
     MediaMap::node_type node = entries.extract(entry);
     node.key() = newKey;
@@ -125,7 +130,7 @@ void Track::rekeyInPlace(MediaMap::iterator entry, long long newKey)
 
 void Track::assertParentless(boost::shared_ptr<Media> const& media)
 {
-    if (!media->parentTrack().expired()) {
+    if (media->isPlaced()) {
         throw ValueException<boost::shared_ptr<Media>>(
             "trying to edit parented media like a parentless media", media);
     }
@@ -133,7 +138,7 @@ void Track::assertParentless(boost::shared_ptr<Media> const& media)
 
 void Track::addMediaSansTypeCheck(boost::shared_ptr<Media> const& media, long long time)
 {
-    Range<long long> const range(time, media->trackRange().duration);
+    Range<long long> const range(time, media->placedRange().duration);
     MediaMap& entries = medias();
     MediaMap::iterator const after = entries.upper_bound(time);
     if (fitsBetween(entries, entryBefore(entries, after), after, range)) {
@@ -146,8 +151,18 @@ void Track::addMediaSansTypeCheck(boost::shared_ptr<Media> const& media, long lo
     // replaced by then. Callers pass parentless medias only.
     assertParentless(media);
     media->setTrackStart(time);
-    media->setParentTrack(shared_from_this());
+    media->setParentTrack(ownedWeakly());
     notify();
+}
+
+/// As shared_from_this(), but without taking a share.
+boost::weak_ptr<Track> Track::ownedWeakly()
+{
+    boost::weak_ptr<Track> self = weak_from_this();
+    if (self.expired()) {
+        boost::throw_exception(boost::bad_weak_ptr());
+    }
+    return self;
 }
 
 void Track::removeMedia(boost::shared_ptr<Media> const& media, bool includeLinks)

@@ -11,6 +11,7 @@
 #include "timeline/AudioTrack.h"
 #include "timeline/ImageMedia.h"
 #include "timeline/ImageTrack.h"
+#include "timeline/IntersectingMedias.h"
 #include "timeline/Media.h"
 #include "timeline/Transition.h"
 #include "timeline/VisualMedia.h"
@@ -30,32 +31,6 @@ namespace {
 long long endOf(boost::shared_ptr<Media> const& media)
 {
     return media->placedRange().end();
-}
-
-/// The last media that starts at or before `time`, or the first of all. The map is not empty.
-Track::MediaMap::const_iterator lastStartingBy(Track::MediaMap const& medias, long long time)
-{
-    Track::MediaMap::const_iterator const after = medias.upper_bound(time);
-    return after == medias.begin() ? after : std::prev(after);
-}
-
-/// Shows the medias that share an edit unit with `range` to `visit`, in time order, for as long as
-/// it returns true.
-template <class Visit>
-void visitIntersecting(Track::MediaMap const& medias, Range<long long> const& range, Visit visit)
-{
-    // A trim is probed before it is refused, so a range may come here turned inside out.
-    if (range.duration <= 0 || medias.empty()) {
-        return;
-    }
-    long long const end = range.end();
-    for (auto entry = lastStartingBy(medias, range.start);
-         entry != medias.end() && entry->first <= end; ++entry) {
-        boost::shared_ptr<Media> const& media = entry->second;
-        if (media->placedRange().intersection(range).duration > 0 && !visit(media)) {
-            return;
-        }
-    }
 }
 
 template <class List, class IsExcluded>
@@ -198,6 +173,19 @@ boost::shared_ptr<MediaList> Track::mediasIntersectingRange(
     ReadWriteMutex::ScopedReadLock lock(mutex());
     return intersecting<MediaList>(
         medias(), range, [&](boost::shared_ptr<Media> const& media) { return media == excluded; });
+}
+
+ConstMediaVector Track::linkedMediasIntersectingRange(Range<long long> const& range) const
+{
+    ReadWriteMutex::ScopedReadLock lock(mutex());
+    ConstMediaVector result;
+    visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const& media) {
+        if (!media->isUnlinked()) {
+            result.push_back(media);
+        }
+        return true;
+    });
+    return result;
 }
 
 bool Track::intersectionAtRange(Range<long long> const& range) const

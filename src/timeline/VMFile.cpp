@@ -6,6 +6,8 @@
 #include "timeline/ConstMediaDispatcher.h"
 #include "timeline/MediaDispatcher.h"
 
+#include <utility>
+
 namespace tarn {
 
 namespace {
@@ -28,12 +30,18 @@ VMFile::VMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> 
           project)
 {}
 
-VMFile::VMFile(Range<long long> const& range, SourceTrack const& track,
+VMFile::VMFile(Range<long long> const& range, SourceTrack&& track,
                boost::weak_ptr<ThreadSafe const> const& project)
-    : VideoMedia(range, static_cast<double>(track.timeRange().start),
-                 static_cast<double>(track.timeRange().end()), project)
-    , m_file(track)
-    , m_rect(track.rect())
+    : VMFile(range, track.timeRange(), track.rect(), std::move(track), project)
+{}
+
+VMFile::VMFile(Range<long long> const& range, Range<long long> const& limits,
+               Rect<float> const& rect, SourceTrack&& track,
+               boost::weak_ptr<ThreadSafe const> const& project)
+    : VideoMedia(range, static_cast<double>(limits.start), static_cast<double>(limits.end()),
+                 project)
+    , m_file(std::move(track))
+    , m_rect(rect)
 {}
 
 VMFile::VMFile(Range<long long> const& range, boost::weak_ptr<ThreadSafe const> const& project,

@@ -60,8 +60,12 @@ private:
 
     boost::shared_ptr<MetaDataAttribute> const& metaDataAttribute() const;
 
-    VMFile(Range<long long> const& range, SourceTrack const& track,
+    /// Takes the track over.
+    VMFile(Range<long long> const& range, SourceTrack&& track,
            boost::weak_ptr<ThreadSafe const> const& project);
+    /// `limits`: what the source offers.
+    VMFile(Range<long long> const& range, Range<long long> const& limits, Rect<float> const& rect,
+           SourceTrack&& track, boost::weak_ptr<ThreadSafe const> const& project);
 
     VisualFileMedia m_file;
     Rect<float> m_rect;

@@ -1,8 +1,10 @@
 #include "timeline/VisualFileMedia.h"
 
+#include <utility>
+
 namespace tarn {
 
-VisualFileMedia::VisualFileMedia(SourceTrack const& track) : m_track(track) {}
+VisualFileMedia::VisualFileMedia(SourceTrack track) : m_track(std::move(track)) {}
 
 std::string VisualFileMedia::description() const
 {

@@ -11,7 +11,7 @@ namespace tarn {
 class TARN_API VisualFileMedia : public TarnObject, public FileRepresentation
 {
 public:
-    explicit VisualFileMedia(SourceTrack const& track);
+    explicit VisualFileMedia(SourceTrack track);
 
     std::string description() const override;
     std::string fileName() const override;

@@ -51,7 +51,7 @@ VisualMedia::VisualMedia(VisualMedia const& other)
 TransformMatrix VisualMedia::transformAtTime(long long time) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
-    return calcTransformAtTime(this, time);
+    return calcTransformUnderLock(this, time);
 }
 
 Rect<double> VisualMedia::sourceCropRectAtTime(long long time) const

@@ -62,7 +62,7 @@ VisualMediaHitTester::VisualMediaHitTester(Point const& rayOrigin, Point const& 
 
 bool VisualMediaHitTester::rayHitsVisualMedia(boost::shared_ptr<VisualMedia const> const& media)
 {
-    long long const localTime = saturatedDifference(m_time, media->timeRange().start);
+    long long const localTime = saturatedDifference(m_time, media->startTime());
     Rect<double> const rect = media->geometryCropRectAtTime(localTime);
     TransformMatrix matrix = media->transformAtTime(localTime);
     matrix.prepend(m_trackTransform);

@@ -20,7 +20,9 @@ namespace tarn {
 class VisualTrack::MediaAdder : public MediaDispatcher
 {
 public:
-    MediaAdder(VisualTrack& track, long long time) : m_track(track), m_time(time) {}
+    MediaAdder(VisualTrack& track, boost::shared_ptr<Media> const& media, long long time)
+        : m_track(track), m_media(media), m_time(time)
+    {}
 
     void dispatchMedia(boost::shared_ptr<VMFile> const& media) override { add(media); }
     void dispatchMedia(boost::shared_ptr<AMFile> const&) override
@@ -37,12 +39,18 @@ public:
     void dispatchMedia(boost::shared_ptr<Callout> const& media) override { add(media); }
 
 private:
-    void add(boost::shared_ptr<Media> const& media)
+    template <class M>
+    void add(boost::shared_ptr<M> const& media)
     {
-        m_track.addMediaSansTypeCheck(media, m_time);
+        // What was given serves, unless it sent another in its place: one share less to take.
+        if (media == m_media)
+            m_track.addMediaSansTypeCheck(m_media, m_time);
+        else
+            m_track.addMediaSansTypeCheck(media, m_time);
     }
 
     VisualTrack& m_track;
+    boost::shared_ptr<Media> const& m_media;
     long long m_time;
 };
 
@@ -66,7 +74,7 @@ void VisualTrack::receiveDispatcher(TrackDispatcher* dispatcher)
 
 void VisualTrack::addMedia(boost::shared_ptr<Media> const& media, long long time)
 {
-    MediaAdder adder(*this, time);
+    MediaAdder adder(*this, media, time);
     media->receiveDispatcher(&adder);
 }
 

@@ -8,6 +8,22 @@
 
 namespace tarn {
 namespace test {
+namespace {
+
+/// All numbers that wait to be used again and some beyond them, so that the next ones are fresh.
+std::vector<unsigned int> drawAllThatWait()
+{
+    // Fresh numbers follow one another. So may some that were given back, but not so many.
+    std::size_t const inARow = 10000;
+    std::vector<unsigned int> all;
+    do {
+        all.resize(all.size() + inARow);
+        IdentManager::instance()->newIdents(all.data() + all.size() - inARow, inARow);
+    } while (all.back() != all[all.size() - inARow] + inARow - 1);
+    return all;
+}
+
+}  // namespace
 
 TEST(IdentManagerTest, IsOneForTheProcess)
 {
@@ -49,9 +65,7 @@ TEST(IdentManagerTest, SeveralAtOnceAreThoseThatAsManySingleCallsGive)
 TEST(IdentManagerTest, SeveralAtOnceBeginWithTheLastRetiredAndGoOnBeyondThem)
 {
     IdentManager* const manager = IdentManager::instance();
-    // More than others can have retired, so that the numbers run on from the highest there was.
-    std::vector<unsigned int> all(100000);
-    manager->newIdents(all.data(), all.size());
+    std::vector<unsigned int> all = drawAllThatWait();
     unsigned int const highest = all.back();
     manager->retireIdent(all[0]);
     manager->retireIdent(all[5]);
@@ -60,6 +74,29 @@ TEST(IdentManagerTest, SeveralAtOnceBeginWithTheLastRetiredAndGoOnBeyondThem)
     std::array<unsigned int, 4> const expected{all[5], all[0], highest + 1, highest + 2};
     EXPECT_EQ(expected, several);
     all.insert(all.end(), {highest + 1, highest + 2});
+    manager->retireIdents(all.data(), all.size());
+}
+
+// Numbers are handed out in blocks, whose borders no one may notice.
+TEST(IdentManagerTest, AnyCountBeginsWithTheLastRetiredAndGoesOnBeyondThem)
+{
+    IdentManager* const manager = IdentManager::instance();
+    std::vector<unsigned int> all = drawAllThatWait();
+    for (std::size_t retired = 0; retired <= 27; ++retired) {
+        for (std::size_t fresh = 0; fresh <= 27; ++fresh) {
+            std::vector<unsigned int> expected;
+            for (std::size_t i = 0; i < retired; ++i) {
+                manager->retireIdent(all[3 * i]);
+                expected.insert(expected.begin(), all[3 * i]);
+            }
+            for (std::size_t i = 0; i < fresh; ++i)
+                expected.push_back(all.back() + 1 + static_cast<unsigned int>(i));
+            std::vector<unsigned int> drawn(retired + fresh);
+            manager->newIdents(drawn.data(), drawn.size());
+            ASSERT_EQ(expected, drawn) << retired << " and " << fresh;
+            all.insert(all.end(), drawn.end() - static_cast<std::ptrdiff_t>(fresh), drawn.end());
+        }
+    }
     manager->retireIdents(all.data(), all.size());
 }
 

@@ -3,6 +3,7 @@
 #include "parameters/Attribute.h"
 #include "support/LockOwner.h"
 
+#include <boost/smart_ptr/bad_weak_ptr.hpp>
 #include <gtest/gtest.h>
 
 namespace tarn {
@@ -41,6 +42,17 @@ TEST(IdentifiedTest, ACopyTakesTheText)
     original.identAttribute()->setValue("Intro");
     Named const copy(original);
     EXPECT_EQ("Intro", copy.identAttribute()->value());
+}
+
+TEST(IdentifiedTest, NothingOfADeadProjectIsCopied)
+{
+    boost::shared_ptr<LockOwner> project = LockOwner::create();
+    Named const untouched(project);
+    Named const named(project);
+    named.identAttribute();
+    project.reset();
+    EXPECT_THROW(Named{untouched}, boost::bad_weak_ptr);
+    EXPECT_THROW(Named{named}, boost::bad_weak_ptr);
 }
 
 TEST(IdentifiedTest, ACopysTextChangesOnItsOwn)

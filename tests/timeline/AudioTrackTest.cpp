@@ -10,6 +10,7 @@
 #include "support/OneOfEachKind.h"
 #include "support/Thrown.h"
 #include "support/Xml.h"
+#include "timeline/MediaDispatcher.h"
 
 #include <gtest/gtest.h>
 
@@ -38,6 +39,33 @@ TEST_F(AudioTrackTest, TakesASound)
     m_track->addMedia(m_one.sound, 30);
     EXPECT_EQ(m_one.sound, m_track->medias().at(30));
     EXPECT_EQ(m_track, m_one.sound->parentTrack().lock());
+}
+
+/// A host's sound that sends another one in its place.
+class StandIn : public AMFile
+{
+public:
+    StandIn(boost::weak_ptr<ThreadSafe const> const& project,
+            boost::shared_ptr<AMFile> const& heard)
+        : AMFile(Range<long long>(0, 10), 44100, 16, project, "stand-in"), m_heard(heard)
+    {}
+
+    using AMFile::receiveDispatcher;
+    void receiveDispatcher(MediaDispatcher* dispatcher) override
+    {
+        dispatcher->dispatchMedia(m_heard);
+    }
+
+private:
+    boost::shared_ptr<AMFile> m_heard;
+};
+
+TEST_F(AudioTrackTest, TakesWhatAMediaSendsInItsPlace)
+{
+    boost::shared_ptr<Media> const sender(new StandIn(m_project->weak(), m_one.sound));
+    m_track->addMedia(sender, 30);
+    EXPECT_EQ(m_one.sound, m_track->medias().at(30));
+    EXPECT_FALSE(sender->parentTrack().lock());
 }
 
 TEST_F(AudioTrackTest, TakesAKnownSoundWithoutDispatch)

@@ -283,6 +283,28 @@ TEST_F(TrackTest, AMutableTrackListsMutableMedias)
     EXPECT_EQ((MediaList{media("V1.a"), media("V1.c")}), *found);
 }
 
+TEST_F(TrackTest, ThoseWithLinksAreListedApart)
+{
+    given("V1: abcd / A1: .b.d");
+    Range<long long> const all(0, 100);
+    EXPECT_EQ((ConstMediaVector{media("V1.b"), media("V1.d")}),
+              track("V1")->linkedMediasIntersectingRange(all));
+    EXPECT_EQ(ConstMediaVector{media("V1.b")},
+              track("V1")->linkedMediasIntersectingRange(Range<long long>(19, 11)));
+    EXPECT_EQ(ConstMediaVector(),
+              track("V1")->linkedMediasIntersectingRange(Range<long long>(20, 10)));
+    EXPECT_EQ(ConstMediaVector(),
+              track("V1")->linkedMediasIntersectingRange(Range<long long>(10, 0)));
+}
+
+TEST_F(TrackTest, AMediaLiesOnItsOwnTrackAlone)
+{
+    given("V1: a / V2: b");
+    EXPECT_TRUE(media("V1.a")->isPlacedOn(track("V1")));
+    EXPECT_FALSE(media("V1.a")->isPlacedOn(track("V2")));
+    EXPECT_FALSE(freshVideo('c', 1)->isPlacedOn(track("V1")));
+}
+
 TEST_F(TrackTest, TellsWhetherAnythingIsInARange)
 {
     given("V1: ..aa");

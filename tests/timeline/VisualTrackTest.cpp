@@ -7,6 +7,7 @@
 #include "support/OneOfEachKind.h"
 #include "support/Thrown.h"
 #include "support/Xml.h"
+#include "timeline/MediaDispatcher.h"
 
 #include <gtest/gtest.h>
 
@@ -46,6 +47,35 @@ TEST_F(VisualTrackTest, TakesEveryKindOfPicture)
     EXPECT_EQ(5u, m_track->numMedias());
     EXPECT_EQ(m_one.text, m_track->medias().at(30));
     EXPECT_EQ(m_track, m_one.callout->parentTrack().lock());
+}
+
+/// A host's picture that sends another one in its place.
+class StandIn : public VMFile
+{
+public:
+    StandIn(boost::weak_ptr<ThreadSafe const> const& project,
+            boost::shared_ptr<VMFile> const& shown)
+        : VMFile(Range<long long>(0, 10), project, Rect<float>(0, 0, 64, 48), "stand-in")
+        , m_shown(shown)
+    {}
+
+    using VMFile::receiveDispatcher;
+    void receiveDispatcher(MediaDispatcher* dispatcher) override
+    {
+        dispatcher->dispatchMedia(m_shown);
+    }
+
+private:
+    boost::shared_ptr<VMFile> m_shown;
+};
+
+TEST_F(VisualTrackTest, TakesWhatAMediaSendsInItsPlace)
+{
+    boost::shared_ptr<Media> const sender(new StandIn(m_project->weak(), m_one.video));
+    m_track->addMedia(sender, 20);
+    EXPECT_EQ(m_one.video, m_track->medias().at(20));
+    EXPECT_EQ(m_track, m_one.video->parentTrack().lock());
+    EXPECT_FALSE(sender->parentTrack().lock());
 }
 
 TEST_F(VisualTrackTest, RefusesSounds)
