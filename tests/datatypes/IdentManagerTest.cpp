@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <vector>
@@ -13,13 +14,18 @@ namespace {
 /// All numbers that wait to be used again and some beyond them, so that the next ones are fresh.
 std::vector<unsigned int> drawAllThatWait()
 {
-    // Fresh numbers follow one another. So may some that were given back, but not so many.
-    std::size_t const inARow = 10000;
+    // More than are in use elsewhere in this program.
+    std::size_t const many = 10000;
     std::vector<unsigned int> all;
+    auto const drawMany = [&all] {
+        all.resize(all.size() + many);
+        IdentManager::instance()->newIdents(all.data() + all.size() - many, many);
+    };
     do {
-        all.resize(all.size() + inARow);
-        IdentManager::instance()->newIdents(all.data() + all.size() - inARow, inARow);
-    } while (all.back() != all[all.size() - inARow] + inARow - 1);
+        drawMany();
+    } while (all.size() + many <= *std::max_element(all.begin(), all.end()));
+    // What is neither in use nor here now are fewer than these.
+    drawMany();
     return all;
 }
 
