@@ -73,7 +73,7 @@ void IdentManager::makeRoomFor(std::size_t fresh)
 {
     std::size_t const needed = m_nextIdent + fresh;
     if (m_retiredIdents.capacity() < needed) {
-        m_retiredIdents.reserve(2 * needed);
+        m_retiredIdents.reserve(needed + needed / 4 + k_block);
     }
 }
 

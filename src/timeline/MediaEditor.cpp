@@ -63,7 +63,16 @@ double MediaEditor::stretchOffset(long long offset, double a, double b) const
 
 bool MediaEditor::validMediaStartWithTrimOffset(long long offset) const
 {
-    MediaTiming const timing = m_media->timing();
+    return isValidStart(m_media->timing(), offset);
+}
+
+bool MediaEditor::validMediaDurationWithTrimOffset(long long offset) const
+{
+    return isValidDuration(m_media->timing(), offset);
+}
+
+bool MediaEditor::isValidStart(MediaTiming const& timing, long long offset) const
+{
     if (saturatedSum(timing.trackRange.start, offset) < 0)
         return false;
     double const delta = stretchOffset(saturatedDifference(timing.trackRange.duration, offset),
@@ -74,9 +83,8 @@ bool MediaEditor::validMediaStartWithTrimOffset(long long offset) const
     return roundIfClose(timing.mediaEndLimit, newStart, k_close) < timing.mediaEndLimit;
 }
 
-bool MediaEditor::validMediaDurationWithTrimOffset(long long offset) const
+bool MediaEditor::isValidDuration(MediaTiming const& timing, long long offset) const
 {
-    MediaTiming const timing = m_media->timing();
     long long const trackDuration = saturatedDifference(timing.trackRange.duration, offset);
     if (trackDuration < 0)
         return false;

@@ -3,6 +3,7 @@
 #include "datatypes/Export.h"
 #include "datatypes/Range.h"
 #include "datatypes/TarnObject.h"
+#include "timeline/MediaTiming.h"
 #include "timeline/TimelineFwd.h"
 
 #include <string>
@@ -75,6 +76,10 @@ protected:
     static constexpr double k_close = 1e-8;
 
     MediaImpl* media() const { return m_media; }
+
+    /// The two questions about trims, of a timing that has been read.
+    bool isValidStart(MediaTiming const& timing, long long offset) const;
+    bool isValidDuration(MediaTiming const& timing, long long offset) const;
 
 private:
     MediaImpl* m_media;

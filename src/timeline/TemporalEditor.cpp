@@ -34,14 +34,15 @@ void TemporalEditor::trimStart(long long offset, Range<long long>& track, Range<
 
 bool TemporalEditor::validTrimStart(long long offset, Range<long long>&, Range<double>&)
 {
-    return validMediaStartWithTrimOffset(offset) && validMediaDurationWithTrimOffset(offset);
+    MediaTiming const timing = media()->timing();
+    return isValidStart(timing, offset) && isValidDuration(timing, offset);
 }
 
 void TemporalEditor::trimEnd(long long offset, Range<long long>& track, Range<double>& media)
 {
-    if (!validMediaDurationWithTrimOffset(offset))
-        throw ValueException<long long>("invalid media trim end offset", offset);
     MediaTiming const timing = this->media()->timing();
+    if (!isValidDuration(timing, offset))
+        throw ValueException<long long>("invalid media trim end offset", offset);
     track.duration = saturatedDifference(track.duration, offset);
     media.duration = roundIfClose(timing.mediaEndLimit,
                                   static_cast<double>(track.duration) / timing.scalar, k_close);

@@ -64,7 +64,8 @@ void noteClone(MediaCloneMap* map, boost::shared_ptr<Media const> const& media,
                boost::shared_ptr<Media> const& clone)
 {
     if (map) {
-        map->emplace(media, clone);
+        // Pointers mostly rise as the medias do.
+        map->emplace_hint(map->end(), media, clone);
     }
 }
 

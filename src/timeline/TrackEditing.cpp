@@ -85,6 +85,13 @@ bool fitsBetween(Track::MediaMap const& medias, Track::MediaMap::const_iterator 
            (before->first < range.start && before->second->placedRange().end() <= range.start);
 }
 
+/// As upper_bound(), but most medias come to the end, where no search is needed.
+Track::MediaMap::iterator firstAfter(Track::MediaMap& medias, long long time)
+{
+    bool const isEnd = medias.empty() || std::prev(medias.end())->first <= time;
+    return isEnd ? medias.end() : medias.upper_bound(time);
+}
+
 /// The entry before `entry`; the end of the map when there is none.
 Track::MediaMap::const_iterator entryBefore(Track::MediaMap const& medias,
                                             Track::MediaMap::const_iterator entry)
@@ -140,7 +147,7 @@ void Track::addMediaSansTypeCheck(boost::shared_ptr<Media> const& media, long lo
 {
     Range<long long> const range(time, media->placedRange().duration);
     MediaMap& entries = medias();
-    MediaMap::iterator const after = entries.upper_bound(time);
+    MediaMap::iterator const after = firstAfter(entries, time);
     if (fitsBetween(entries, entryBefore(entries, after), after, range)) {
         entries.emplace_hint(after, time, media);
     } else {
