@@ -14,8 +14,11 @@
 #include "timeline/VisualMedia.h"
 #include "timeline/VisualMediaHitTester.h"
 #include "timeline/VisualMixer.h"
+#include "timeline/VisualTrack.h"
 
 #include <boost/pointer_cast.hpp>
+
+#include <typeinfo>
 
 namespace tarn {
 
@@ -55,6 +58,14 @@ Point calcPickRayDirection(VisualMixer const& mixer, Point const& location, long
     return direction;
 }
 
+AbstractVisualTrack const& asVisual(Track const& track)
+{
+    // Nearly always it is one of these, which is seen without a walk over its bases.
+    if (typeid(track) == typeid(VisualTrack))
+        return static_cast<VisualTrack const&>(track);
+    return dynamic_cast<AbstractVisualTrack const&>(track);
+}
+
 Hit visualMediaIntersectsRay(AbstractVisualTrack const& track, Point const& origin,
                              Point const& direction, long long time)
 {
@@ -75,8 +86,7 @@ Hit findMediaIntersectingRay(VisualMixer const& mixer, Point const& origin, Poin
     // The front of the picture is the last track. The mixer's own list, as the lock is held.
     Mixer::TrackList const& tracks = mixer.trackList();
     for (auto it = tracks.rbegin(); it != tracks.rend(); ++it) {
-        AbstractVisualTrack const& track = dynamic_cast<AbstractVisualTrack const&>(**it);
-        Hit const hit = visualMediaIntersectsRay(track, origin, direction, time);
+        Hit const hit = visualMediaIntersectsRay(asVisual(**it), origin, direction, time);
         if (hit.first)
             return hit;
     }

@@ -32,7 +32,7 @@ void removeRightEdgeMods(Media& clone)
 void setupLeftEdgeMods(Range<long long> const& range, Media const& media, Media& clone)
 {
     long long const length = media.leftEdgeModificationLength();
-    Range<long long> const edge(media.startTime(), length);
+    Range<long long> const edge(media.placedRange().start, length);
     long long const common = range.intersection(edge).duration;
     if (common < length) {
         removeLeftEdgeMods(clone);
@@ -44,7 +44,7 @@ void setupLeftEdgeMods(Range<long long> const& range, Media const& media, Media&
 void setupRightEdgeMods(Range<long long> const& range, Media const& media, Media& clone)
 {
     long long const length = media.rightEdgeModificationLength();
-    Range<long long> const edge(saturatedDifference(media.endTime(), length), length);
+    Range<long long> const edge(saturatedDifference(media.placedRange().end(), length), length);
     long long const common = range.intersection(edge).duration;
     if (common < length) {
         removeRightEdgeMods(clone);
@@ -76,7 +76,7 @@ void Track::setupSharedClone(boost::shared_ptr<Track> const& clone) const
     ReadWriteMutex::ScopedReadLock lock(mutex());
     for (MediaMap::value_type const& entry : medias()) {
         boost::shared_ptr<Media> const mediaClone = sharedClone<Media>(entry.second);
-        clone->addMedia(mediaClone, mediaClone->startTime());
+        clone->addMedia(mediaClone, mediaClone->placedRange().start);
     }
 }
 
@@ -87,7 +87,7 @@ boost::shared_ptr<Track> Track::copyPortion(ConstMediaVector const& medias,
     boost::shared_ptr<Track> const copy(clone());
     for (boost::shared_ptr<Media const> const& media : medias) {
         boost::shared_ptr<Media> const mediaClone = sharedClone<Media>(media);
-        copy->addMedia(mediaClone, mediaClone->startTime());
+        copy->addMedia(mediaClone, mediaClone->placedRange().start);
         noteClone(map, media, mediaClone);
     }
     return copy;
@@ -98,13 +98,13 @@ boost::shared_ptr<Track> Track::copyPortion(Range<long long> const& range, Media
     ReadWriteMutex::ScopedReadLock lock(mutex());
     boost::shared_ptr<Track> const copy(clone());
     visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const& media) {
-        Range<long long> const part = media->trackRange().intersection(range);
+        Range<long long> const part = media->placedRange().intersection(range);
         boost::shared_ptr<Media> const mediaClone = sharedClone<Media>(media);
         assertParentless(mediaClone);
-        mediaClone->trimStart(part.start - mediaClone->startTime());
-        mediaClone->trimEnd(mediaClone->endTime() - part.start - part.duration);
+        mediaClone->trimStart(part.start - mediaClone->placedRange().start);
+        mediaClone->trimEnd(mediaClone->placedRange().end() - part.start - part.duration);
         setupCloneEdgeMods(range, *media, *mediaClone);
-        copy->addMedia(mediaClone, mediaClone->startTime());
+        copy->addMedia(mediaClone, mediaClone->placedRange().start);
         noteClone(map, media, mediaClone);
         return true;
     });

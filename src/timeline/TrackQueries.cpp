@@ -180,7 +180,7 @@ ConstMediaVector Track::linkedMediasIntersectingRange(Range<long long> const& ra
     ReadWriteMutex::ScopedReadLock lock(mutex());
     ConstMediaVector result;
     visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const& media) {
-        if (!media->isUnlinked()) {
+        if (media->mayBeLinked() && !media->isUnlinked()) {
             result.push_back(media);
         }
         return true;

@@ -93,6 +93,21 @@ TEST_F(HitTesterTest, APictureIsHitWhereItIsSeen)
     EXPECT_EQ(media, HitTester::hitTestAtLocation(m_mixer, Point(10, 20, 0), 0).first);
 }
 
+/// A host's own kind of track.
+class OwnTrack : public VisualTrack
+{
+public:
+    using VisualTrack::VisualTrack;
+};
+
+TEST_F(HitTesterTest, APictureOnAHostsOwnTrackIsHit)
+{
+    boost::shared_ptr<VisualTrack> const own(new OwnTrack(m_project->weak()));
+    m_mixer->addTrack(own, -1);
+    boost::shared_ptr<IMFile> const media = still(own, 0);
+    EXPECT_EQ(media, mediaAt(10, 20));
+}
+
 TEST_F(HitTesterTest, BesideThePictureNothingIsHit)
 {
     still(m_track, 0);
