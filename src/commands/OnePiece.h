@@ -43,10 +43,7 @@ public:
     T* allocate(std::size_t)
     {
         static_assert(alignof(T) <= alignof(void*), "the pool aligns for pointers");
-        void* const place = (Pool<T>::malloc)();
-        if (!place)
-            throw std::bad_alloc();
-        return static_cast<T*>(place);
+        return static_cast<T*>((Pool<T>::malloc)());
     }
     void deallocate(T* place, std::size_t)
     {
@@ -63,11 +60,21 @@ public:
 private:
     static unsigned int constexpr k_piecesATime = 64;
 
+    /// Where the pool has its memory from. Unlike that of Boost it throws when there is none.
+    struct Heap
+    {
+        using size_type = std::size_t;
+        using difference_type = std::ptrdiff_t;
+
+        static char* malloc(std::size_t size) { return new char[size]; }
+        static void free(char* memory) { delete[] memory; }
+    };
+
     // By the name of U only where something is made: T may still be without a size here.
     template <class U>
     using Pool =
-        boost::singleton_pool<OnePiece, sizeof(U), boost::default_user_allocator_new_delete,
-                              boost::details::pool::default_mutex, k_piecesATime, k_piecesATime>;
+        boost::singleton_pool<OnePiece, sizeof(U), Heap, boost::details::pool::default_mutex,
+                              k_piecesATime, k_piecesATime>;
 };
 
 }  // namespace tarn

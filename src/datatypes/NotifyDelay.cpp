@@ -307,11 +307,6 @@ void NotifyDelay::addObservable(Observable const* observable)
     queue().add(Queue::Entry{observable, dynamic_cast<Subject const*>(observable)});
 }
 
-void NotifyDelay::addObservable(Subject const* subject)
-{
-    queue().add(Queue::Entry{subject, subject});
-}
-
 bool NotifyDelay::holdBack(Subject const* subject)
 {
     Queue& waiting = queue();

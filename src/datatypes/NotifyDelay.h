@@ -28,7 +28,6 @@ public:
     static bool isActive();
     /// Queues a notification.
     static void addObservable(Observable const* observable);
-    static void addObservable(Subject const* subject);
     /// Drops every entry of what dies, the one being told included.
     static void removeObservable(Observable const* observable);
     static void removeObservable(Subject const* subject);

@@ -113,10 +113,10 @@ public:
     }
     bool isPlacedOn(boost::shared_ptr<Track const> const& track) const
     {
+        if (!m_keepsPlace)
+            return parentTrack().lock() == track;
         // By their counts, which tells them apart without a share.
-        return m_keepsPlace
-                   ? !m_place.parent.owner_before(track) && !track.owner_before(m_place.parent)
-                   : parentTrack().lock() == track;
+        return !m_place.parent.owner_before(track) && !track.owner_before(m_place.parent);
     }
     bool mayBeLinked() const { return !m_keepsPlace || !m_place.links.empty(); }
     /// @}

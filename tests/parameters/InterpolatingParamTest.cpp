@@ -1,4 +1,5 @@
 #include "parameters/InterpolatingParam.h"
+#include "parameters/Attribute.h"
 #include "parameters/LeftInterpolater.h"
 #include "parameters/LeftParameter.h"
 #include "parameters/LinearInterpolater.h"
@@ -199,6 +200,14 @@ TEST_F(InterpolatingParamTest, OnlyOfNumbersIsItKnownThatTheyAreUntouched)
     boost::shared_ptr<InterpolatingParam<Point>> const point = newParam<Point>("p");
     point->addKeyFrame(0, Point());
     EXPECT_FALSE(point->isUntouched(Point()));
+}
+
+TEST_F(InterpolatingParamTest, ItsIdentIsWhatItsAttributeSaysNow)
+{
+    boost::shared_ptr<InterpolatingParam<double>> const parameter = newParam<double>("d");
+    EXPECT_EQ("d", parameter->ident());
+    parameter->identAttribute()->setValue("depth");
+    EXPECT_EQ("depth", parameter->ident());
 }
 
 TEST_F(InterpolatingParamTest, AnIdentOrAnInterpolaterThatWasAskedForIsATouch)

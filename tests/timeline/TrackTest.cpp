@@ -302,6 +302,7 @@ TEST_F(TrackTest, AMediaLiesOnItsOwnTrackAlone)
     given("V1: a / V2: b");
     EXPECT_TRUE(media("V1.a")->isPlacedOn(track("V1")));
     EXPECT_FALSE(media("V1.a")->isPlacedOn(track("V2")));
+    EXPECT_FALSE(media("V2.b")->isPlacedOn(track("V1")));
     EXPECT_FALSE(freshVideo('c', 1)->isPlacedOn(track("V1")));
 }
 
