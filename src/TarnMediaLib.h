@@ -131,6 +131,7 @@
 #include "datatypes/ScreenMetaData.h"
 #include "datatypes/ScreenMetaDataImpl.h"
 #include "datatypes/ScreenMetaDataLoader.h"
+#include "datatypes/SpinLock.h"
 #include "datatypes/Subject.h"
 #include "datatypes/TarnObject.h"
 #include "datatypes/TransformMatrix.h"

@@ -99,6 +99,7 @@ void sortClonesByTrackStart(MediaCloneMap const& map, Clones* clones)
         sorted.emplace_back(entry.second->trackRange().start, &entry.second);
     std::sort(sorted.begin(), sorted.end(),
               [](StartAndClone const& a, StartAndClone const& b) { return a.first < b.first; });
+    clones->reserve(sorted.size());
     for (StartAndClone const& entry : sorted)
         clones->push_back(*entry.second);
 }

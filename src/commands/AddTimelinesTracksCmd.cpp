@@ -90,7 +90,9 @@ template <class T>
 void AddTimelinesTracksCmd<T>::addTrackMedias(TrackMap const& trackMap)
 {
     boost::shared_ptr<Track const> const destination = trackMap.second;
-    for (boost::shared_ptr<Media const> const& media : mediasOf(*trackMap.first)) {
+    ConstMediaVector const medias = mediasOf(*trackMap.first);
+    makeRoomFor(medias.size());
+    for (boost::shared_ptr<Media const> const& media : medias) {
         m_addedMedias.push_back(sharedClone<Media>(media));
         MultiCommand::execute(AddMediaCmd::create(destination, m_addedMedias.back(),
                                                   saturatedSum(media->trackRange().start, m_time)));

@@ -54,7 +54,7 @@ void cloneInto(CommandSequence& clones, CommandSequence const& originals)
         redo.push_back(boost::shared_ptr<Command>((*it)->clone()));
     }
     CommandSequence::Commands none;
-    clones.makeRoomForRedo(redo.size());
+    clones.makeRoomFor(redo.size());
     clones.replaceRedo(redo, none);
 }
 
@@ -214,7 +214,7 @@ void CommandHistory::restoreState(CommandHistoryState const& state)
     CommandSequence::Commands const redo(state.redoCommands().begin(), state.redoCommands().end());
     CommandSequence::Commands old;
     old.reserve(m_commands.numRedo());
-    m_commands.makeRoomForRedo(redo.size());
+    m_commands.makeRoomFor(redo.size());
     {
         Run const run(*this);
         if (!unrollTo(state.undoTop())) {

@@ -54,6 +54,9 @@ public:
     void undoAll();
     /// Redoes until nothing is left. @throws what redo() throws
     void redoAll();
+    /// Sees to it that so many more commands are recorded without moving those that are.
+    /// @throws std::bad_alloc
+    void makeRoomFor(std::size_t count) { m_commands.makeRoomFor(count); }
     /// Drops what could be redone; does not notify.
     void dropRedoCommands();
 

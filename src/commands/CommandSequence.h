@@ -54,8 +54,8 @@ public:
     void replaceNewestTwo(boost::shared_ptr<Command> const& command);
     /// The one undone first goes first.
     void clearRedo();
-    /// Room for `count` commands in the place of what can be redone now. @throws std::bad_alloc
-    void makeRoomForRedo(std::size_t count) { m_entries.reserve(m_entries.size() + count); }
+    /// Room for so many more, or in the place of what can be redone now. @throws std::bad_alloc
+    void makeRoomFor(std::size_t count) { m_entries.reserve(m_entries.size() + count); }
     /// Puts `commands`, the next to redo last, in the place of what can be redone, which is added
     /// to `old` in that order. There must be room in both.
     void replaceRedo(Commands const& commands, Commands& old);

@@ -61,6 +61,11 @@ bool MultiCommand::execute(boost::shared_ptr<Command> command)
     return m_history->execute(std::move(command));
 }
 
+void MultiCommand::makeRoomFor(std::size_t count)
+{
+    m_history->makeRoomFor(count);
+}
+
 std::size_t MultiCommand::numUndoCommands() const
 {
     return m_history->numUndoCommands();

@@ -36,6 +36,8 @@ protected:
 
     virtual void executeCommands(CommandHandler const* handler) = 0;
 
+    /// For a composite that knows how many commands it is about to run. @throws std::bad_alloc
+    void makeRoomFor(std::size_t count);
     /// What has run, oldest first, for the body of a subclass that shows it.
     void xmlOfCommands(XMLable::Options& options, int indent) const;
 

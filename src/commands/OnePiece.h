@@ -1,5 +1,8 @@
 #pragma once
 
+#include "datatypes/PoolHeap.h"
+#include "datatypes/SpinLock.h"
+
 #include <boost/make_shared.hpp>
 #include <boost/pool/singleton_pool.hpp>
 #include <boost/shared_ptr.hpp>
@@ -60,21 +63,10 @@ public:
 private:
     static unsigned int constexpr k_piecesATime = 64;
 
-    /// Where the pool has its memory from. Unlike that of Boost it throws when there is none.
-    struct Heap
-    {
-        using size_type = std::size_t;
-        using difference_type = std::ptrdiff_t;
-
-        static char* malloc(std::size_t size) { return new char[size]; }
-        static void free(char* memory) { delete[] memory; }
-    };
-
     // By the name of U only where something is made: T may still be without a size here.
     template <class U>
-    using Pool =
-        boost::singleton_pool<OnePiece, sizeof(U), Heap, boost::details::pool::default_mutex,
-                              k_piecesATime, k_piecesATime>;
+    using Pool = boost::singleton_pool<OnePiece, sizeof(U), PoolHeap, SpinLock, k_piecesATime,
+                                       k_piecesATime>;
 };
 
 }  // namespace tarn

@@ -41,6 +41,7 @@ void RippleMoveCmd::executeCommands(CommandHandler const*)
          RippleUtil::mediasFrom(m_track, m_firstMedia->trackRange().start))
         toMove.push(std::move(media));
 
+    makeRoomFor(toMove.size());
     while (!toMove.empty())
         MultiCommand::execute(MoveCmd::create(m_track, toMove.pop(), m_offset));
 }

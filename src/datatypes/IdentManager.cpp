@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <mutex>
 #include <numeric>
 
 namespace tarn {
@@ -47,7 +48,7 @@ IdentManager* IdentManager::instance()
 
 unsigned int IdentManager::newIdent()
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     if (m_retiredIdents.empty()) {
         makeRoomFor(1);
         return m_nextIdent++;
@@ -59,7 +60,7 @@ unsigned int IdentManager::newIdent()
 
 void IdentManager::newIdents(unsigned int* idents, std::size_t count)
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     std::size_t const reused = std::min(count, m_retiredIdents.size());
     makeRoomFor(count - reused);
     copyBackwards(m_retiredIdents.data() + m_retiredIdents.size(), idents, reused);
@@ -68,7 +69,7 @@ void IdentManager::newIdents(unsigned int* idents, std::size_t count)
     m_nextIdent += static_cast<unsigned int>(count - reused);
 }
 
-/// Room for every ident given out, for destructors retire them and must not fail. Under the mutex.
+/// Room for every ident given out, for destructors retire them and must not fail. Under the lock.
 void IdentManager::makeRoomFor(std::size_t fresh)
 {
     std::size_t const needed = m_nextIdent + fresh;
@@ -79,13 +80,13 @@ void IdentManager::makeRoomFor(std::size_t fresh)
 
 void IdentManager::retireIdent(unsigned int ident)
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     m_retiredIdents.push_back(ident);
 }
 
 void IdentManager::retireIdents(unsigned int const* idents, std::size_t count)
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     m_retiredIdents.insert(m_retiredIdents.end(), idents, idents + count);
 }
 

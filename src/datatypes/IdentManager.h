@@ -1,10 +1,10 @@
 #pragma once
 
 #include "datatypes/Export.h"
+#include "datatypes/SpinLock.h"
 #include "datatypes/TarnObject.h"
 
 #include <cstddef>
-#include <mutex>
 #include <vector>
 
 namespace tarn {
@@ -42,7 +42,7 @@ private:
 
     unsigned int m_nextIdent = 0;
     std::vector<unsigned int> m_retiredIdents;
-    std::mutex m_mutex;
+    SpinLock m_lock;
 };
 
 }  // namespace tarn

@@ -14,7 +14,7 @@ Identified::Identified(boost::weak_ptr<ThreadSafe const> const& project, std::st
 {}
 
 Identified::Identified(Identified const& other)
-    : Identified(other.m_identProject, other.textToCopy())
+    : m_identProject(other.m_identProject), m_firstText(other.textToCopy())
 {}
 
 Identified::~Identified() = default;

@@ -4,9 +4,9 @@
 #include "datatypes/MadeOnFirstUse.h"
 #include "datatypes/ReservedIdent.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstring>
 
 namespace tarn {
 
@@ -28,7 +28,7 @@ public:
     explicit LateObject(unsigned int const* idents = nullptr)
     {
         if (idents)
-            std::copy_n(idents, N, m_idents.data());
+            std::memcpy(m_idents.data(), idents, sizeof m_idents);  // no call, of a size known here
         else
             IdentManager::instance()->newIdents(m_idents.data(), N);
     }

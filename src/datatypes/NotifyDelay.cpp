@@ -1,5 +1,6 @@
 #include "datatypes/NotifyDelay.h"
 
+#include "datatypes/SpinLock.h"
 #include "datatypes/Subject.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@
 
 namespace tarn {
 
-/// What the delays of the process share. Its mutex is never held while anyone is called.
+/// What the delays of the process share. Its lock is never held while anyone is called.
 struct NotifyDelay::Queue
 {
     /// One held notification.
@@ -67,7 +68,7 @@ private:
     void closeUp();
     void makeRoom(std::size_t more);
 
-    std::mutex m_mutex;
+    SpinLock m_lock;
     // Those before m_first have left; an entry of what has died meanwhile is empty. There is always
     // room for one more of each subject that is observed, but for those that have used theirs.
     std::vector<Entry> m_entries;
@@ -80,7 +81,7 @@ private:
 void NotifyDelay::Queue::Entry::count(int change) const
 {
     if (subject) {
-        // Only the queue writes it, under its mutex: there is nobody to race with in between.
+        // Only the queue writes it, under its lock: there is nobody to race with in between.
         int const count = subject->m_queueCount.load(std::memory_order_relaxed);
         subject->m_queueCount.store(count + change, std::memory_order_relaxed);
     }
@@ -88,7 +89,7 @@ void NotifyDelay::Queue::Entry::count(int change) const
 
 void NotifyDelay::Queue::add(Entry const& entry)
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     try {
         if (m_entries.size() + 1 + m_numObserved > m_entries.capacity()) {
             makeRoom(1);
@@ -116,14 +117,14 @@ bool NotifyDelay::Queue::mustBeToldStill(Entry const& entry) const
 
 void NotifyDelay::Queue::addReserve()
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     makeRoom(1);
     ++m_numObserved;
 }
 
 void NotifyDelay::Queue::dropReserve()
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     --m_numObserved;
 }
 
@@ -160,7 +161,7 @@ void NotifyDelay::Queue::dropFront()
 
 bool NotifyDelay::Queue::tellNext(Told& told)
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     if (told.isTold) {
         told.entry.count(-1);
         m_beingTold = told.outer;
@@ -197,7 +198,7 @@ void NotifyDelay::Queue::removeFromTold(Observable const* observable)
 
 void NotifyDelay::Queue::remove(Observable const* observable)
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     removeFromTold(observable);
     for (std::size_t i = m_first; i < m_entries.size(); ++i) {
         takeOut(m_entries[i], observable);
@@ -206,7 +207,7 @@ void NotifyDelay::Queue::remove(Observable const* observable)
 
 void NotifyDelay::Queue::remove(Subject const* subject)
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     removeFromTold(subject);
     // What dies has mostly changed last: from the newest on, and no further than to its first.
     for (std::size_t i = m_entries.size(); subject->m_queueCount > 0 && i > m_first; --i) {
@@ -216,7 +217,7 @@ void NotifyDelay::Queue::remove(Subject const* subject)
 
 std::size_t NotifyDelay::Queue::numTold()
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     std::size_t result = 0;
     for (Told const* told = m_beingTold; told; told = told->outer) {
         ++result;
@@ -227,7 +228,7 @@ std::size_t NotifyDelay::Queue::numTold()
 Observable const* NotifyDelay::Queue::toldAt(std::size_t depth)
 {
     std::size_t const size = numTold();
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     Told const* told = depth < size ? m_beingTold : nullptr;
     for (std::size_t i = depth + 1; told && i < size; ++i) {
         told = told->outer;
@@ -237,19 +238,19 @@ Observable const* NotifyDelay::Queue::toldAt(std::size_t depth)
 
 NotifyDelay::Queue::Number NotifyDelay::Queue::firstWaiting()
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     return m_firstNumber;
 }
 
 NotifyDelay::Queue::Number NotifyDelay::Queue::endWaiting()
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     return m_firstNumber + (m_entries.size() - m_first);
 }
 
 Observable const* NotifyDelay::Queue::waitingAt(Number number)
 {
-    std::lock_guard<std::mutex> const guard(m_mutex);
+    std::lock_guard<SpinLock> const guard(m_lock);
     return number < m_firstNumber ? nullptr
                                   : m_entries[m_first + (number - m_firstNumber)].observable;
 }

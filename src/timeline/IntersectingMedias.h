@@ -16,8 +16,8 @@ inline Track::MediaMap::const_iterator lastStartingBy(Track::MediaMap const& med
     return after == medias.begin() ? after : std::prev(after);
 }
 
-/// Shows the medias that share an edit unit with `range` to `visit`, in time order, for as long as
-/// it returns true.
+/// Shows the medias that share an edit unit with `range`, and what each shares, to `visit`, in time
+/// order, for as long as it returns true.
 template <class Visit>
 void visitIntersecting(Track::MediaMap const& medias, Range<long long> const& range, Visit visit)
 {
@@ -29,7 +29,8 @@ void visitIntersecting(Track::MediaMap const& medias, Range<long long> const& ra
     for (auto entry = lastStartingBy(medias, range.start);
          entry != medias.end() && entry->first <= end; ++entry) {
         boost::shared_ptr<Media> const& media = entry->second;
-        if (media->placedRange().intersection(range).duration > 0 && !visit(media)) {
+        Range<long long> const shared = media->placedRange().intersection(range);
+        if (shared.duration > 0 && !visit(media, shared)) {
             return;
         }
     }

@@ -258,12 +258,13 @@ private:
     MediaMap::iterator entryFreeToTake(boost::shared_ptr<Media const> const& media,
                                        Range<long long> const& range, bool includeLinks);
     void rekeyInPlace(MediaMap::iterator entry, long long newKey);
-    boost::weak_ptr<Track> ownedWeakly();
+    boost::weak_ptr<Track> const& ownedWeakly();
 
     void checkStartIsFree(boost::shared_ptr<Media const> const& media, long long newStart,
                           bool includeLinks) const;
 
     boost::shared_ptr<VectorEffectable> m_effects;
+    boost::weak_ptr<Track> m_self;  // what medias are given, once one was
 };
 
 }  // namespace tarn

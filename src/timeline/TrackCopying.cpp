@@ -97,17 +97,17 @@ boost::shared_ptr<Track> Track::copyPortion(Range<long long> const& range, Media
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
     boost::shared_ptr<Track> const copy(clone());
-    visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const& media) {
-        Range<long long> const part = media->placedRange().intersection(range);
-        boost::shared_ptr<Media> const mediaClone = sharedClone<Media>(media);
-        assertParentless(mediaClone);
-        mediaClone->trimStart(part.start - mediaClone->placedRange().start);
-        mediaClone->trimEnd(mediaClone->placedRange().end() - part.start - part.duration);
-        setupCloneEdgeMods(range, *media, *mediaClone);
-        copy->addMedia(mediaClone, mediaClone->placedRange().start);
-        noteClone(map, media, mediaClone);
-        return true;
-    });
+    visitIntersecting(
+        medias(), range, [&](boost::shared_ptr<Media> const& media, Range<long long> const& part) {
+            boost::shared_ptr<Media> const mediaClone = sharedClone<Media>(media);
+            assertParentless(mediaClone);
+            mediaClone->trimStart(part.start - mediaClone->placedRange().start);
+            mediaClone->trimEnd(mediaClone->placedRange().end() - part.start - part.duration);
+            setupCloneEdgeMods(range, *media, *mediaClone);
+            copy->addMedia(mediaClone, mediaClone->placedRange().start);
+            noteClone(map, media, mediaClone);
+            return true;
+        });
     return copy;
 }
 

@@ -163,13 +163,15 @@ void Track::addMediaSansTypeCheck(boost::shared_ptr<Media> const& media, long lo
 }
 
 /// As shared_from_this(), but without taking a share.
-boost::weak_ptr<Track> Track::ownedWeakly()
+boost::weak_ptr<Track> const& Track::ownedWeakly()
 {
-    boost::weak_ptr<Track> self = weak_from_this();
-    if (self.expired()) {
-        boost::throw_exception(boost::bad_weak_ptr());
+    if (m_self.expired()) {
+        m_self = weak_from_this();
+        if (m_self.expired()) {
+            boost::throw_exception(boost::bad_weak_ptr());
+        }
     }
-    return self;
+    return m_self;
 }
 
 void Track::removeMedia(boost::shared_ptr<Media> const& media, bool includeLinks)

@@ -38,7 +38,7 @@ boost::shared_ptr<List> intersecting(Track::MediaMap const& medias, Range<long l
                                      IsExcluded isExcluded)
 {
     boost::shared_ptr<List> const result = boost::make_shared<List>();
-    visitIntersecting(medias, range, [&](boost::shared_ptr<Media> const& media) {
+    visitIntersecting(medias, range, [&](boost::shared_ptr<Media> const& media, auto const&) {
         if (!isExcluded(media)) {
             result->push_back(media);
         }
@@ -179,7 +179,7 @@ ConstMediaVector Track::linkedMediasIntersectingRange(Range<long long> const& ra
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
     ConstMediaVector result;
-    visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const& media) {
+    visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const& media, auto const&) {
         if (media->mayBeLinked() && !media->isUnlinked()) {
             result.push_back(media);
         }
@@ -192,7 +192,7 @@ bool Track::intersectionAtRange(Range<long long> const& range) const
 {
     ReadWriteMutex::ScopedReadLock lock(mutex());
     bool found = false;
-    visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const&) {
+    visitIntersecting(medias(), range, [&](boost::shared_ptr<Media> const&, auto const&) {
         found = true;
         return false;
     });

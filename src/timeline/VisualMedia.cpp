@@ -5,6 +5,7 @@
 #include "parameters/InterpolatingParam.h"
 #include "parameters/MTVector.h"
 #include "parameters/VectorParam.h"
+#include "timeline/PicturePool.h"
 
 namespace tarn {
 
@@ -96,6 +97,16 @@ void VisualMedia::shownValuesAtTime(double time, double* values) const
     m_shown.geometryCrop.storeOthers(*this, *this, time, wanted, 4, values);
     m_shown.opacity.storeOthers(*this, *this, time, wanted, opacity, values);
     Transformer::storeOthers(*this, time, wanted, transform, values);
+}
+
+void* VisualMedia::operator new(std::size_t size)
+{
+    return PicturePool::take(size);
+}
+
+void VisualMedia::operator delete(void* place, std::size_t size)
+{
+    PicturePool::giveBack(place, size);
 }
 
 void VisualMedia::setupSharedClone(boost::shared_ptr<Media> const& clone) const

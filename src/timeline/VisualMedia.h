@@ -59,6 +59,10 @@ public:
     /// Aims the clone's edge functions at the clone, where they knew their media.
     void setupSharedClone(boost::shared_ptr<Media> const& clone) const override;
 
+    /// Pictures lie side by side in pools of the process. @throws std::bad_alloc
+    static void* operator new(std::size_t size);
+    static void operator delete(void* place, std::size_t size);
+
     std::string description() const override;
     int numParameters() const override;
     boost::shared_ptr<MTVector<boost::shared_ptr<ParameterInterface const>>> parameterVector()

@@ -125,7 +125,7 @@ TEST_F(CommandSequenceTest, ReplacedRedosComeBackWithTheNextLast)
     undo();
     Commands old;
     old.reserve(m_sequence.numRedo());
-    m_sequence.makeRoomForRedo(2);
+    m_sequence.makeRoomFor(2);
     m_sequence.replaceRedo(those({4, 3}), old);
     EXPECT_EQ(those({2, 1}), old);
     EXPECT_EQ(those({3, 4}), redoable());
