@@ -12,6 +12,7 @@
 #include <boost/throw_exception.hpp>
 
 #include <iterator>
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -85,6 +86,15 @@ bool fitsBetween(Track::MediaMap const& medias, Track::MediaMap::const_iterator 
            (before->first < range.start && before->second->placedRange().end() <= range.start);
 }
 
+/// Another key for an entry that keeps its place among the others. A key is const, so the entry is
+/// made anew where it lies; to take the node out and in again would balance the tree twice.
+void giveKey(Track::MediaMap::value_type& entry, long long key)
+{
+    boost::shared_ptr<Media> media = std::move(entry.second);
+    std::destroy_at(&entry);
+    ::new (static_cast<void*>(&entry)) Track::MediaMap::value_type(key, std::move(media));
+}
+
 /// As upper_bound(), but most medias come to the end, where no search is needed.
 Track::MediaMap::iterator firstAfter(Track::MediaMap& medias, long long time)
 {
@@ -120,7 +130,6 @@ Track::MediaMap::iterator Track::entryFreeToTake(boost::shared_ptr<Media const> 
 /// Gives an entry, whose media has been edited, the key that was found free.
 void Track::rekeyInPlace(MediaMap::iterator entry, long long newKey)
 {
-    MediaMap& entries = medias();
     boost::shared_ptr<Media> const& media = entry->second;
     if (media->placedRange().start != newKey) {
         relocateMedia(boost::shared_ptr<Media>(media), entry->first, media->placedRange().start);
@@ -129,10 +138,7 @@ void Track::rekeyInPlace(MediaMap::iterator entry, long long newKey)
     if (entry->first == newKey) {
         return;
     }
-    MediaMap::iterator const next = std::next(entry);
-    MediaMap::node_type node = entries.extract(entry);
-    node.key() = newKey;
-    entries.insert(next, std::move(node));
+    giveKey(*entry, newKey);
 }
 
 void Track::assertParentless(boost::shared_ptr<Media> const& media)
