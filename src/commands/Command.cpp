@@ -27,6 +27,8 @@ void Command::xmlAttributes(XMLable::Options&) const {}
 
 void Command::xmlBody(XMLable::Options&, int) const {}
 
+void Command::fetchAhead(Turn) const {}
+
 boost::shared_ptr<Command> Command::groupCommands(boost::shared_ptr<Command> const& first,
                                                   boost::shared_ptr<Command> const& second)
 {

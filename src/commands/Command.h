@@ -46,6 +46,16 @@ public:
     void xmlAttributes(XMLable::Options& options) const override;
     void xmlBody(XMLable::Options& options, int indent) const override;
 
+    /// How many turns away it is: FetchAhead::k_far or k_near.
+    enum class Turn
+    {
+        Far,
+        Near
+    };
+    /// Called before its turn when many are undone or redone in a row: a chance to fetch what it
+    /// will touch from memory. Nothing may change. Does nothing, unless a class has something.
+    virtual void fetchAhead(Turn turn) const;
+
     /// The two as one step, each remaining itself: a CommandPair.
     static boost::shared_ptr<Command> groupCommands(boost::shared_ptr<Command> const& first,
                                                     boost::shared_ptr<Command> const& second);

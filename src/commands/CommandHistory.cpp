@@ -1,10 +1,12 @@
 #include "commands/CommandHistory.h"
 
 #include "commands/Command.h"
+#include "datatypes/FetchAhead.h"
 #include "exceptions/TarnMediaLibException.h"
 #include "exceptions/ValueException.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iostream>
 #include <iterator>
 #include <sstream>
@@ -41,6 +43,18 @@ std::reverse_iterator<CommandSequence::Iterator> redoListBegin(CommandSequence c
 std::reverse_iterator<CommandSequence::Iterator> redoListEnd(CommandSequence const& commands)
 {
     return std::make_reverse_iterator(commands.redoBegin());
+}
+
+/// What comes soon of the `count` commands from `next` on may fetch what it will touch.
+template <class Iterator>
+void fetchAhead(Iterator next, std::size_t count)
+{
+    if (count > FetchAhead::k_far) {
+        next[FetchAhead::k_far]->fetchAhead(Command::Turn::Far);
+    }
+    if (count > FetchAhead::k_near) {
+        next[FetchAhead::k_near]->fetchAhead(Command::Turn::Near);
+    }
 }
 
 void cloneInto(CommandSequence& clones, CommandSequence const& originals)
@@ -164,6 +178,7 @@ void CommandHistory::redo()
 void CommandHistory::undoAll()
 {
     while (m_commands.numUndo() > 0) {
+        fetchAhead(std::make_reverse_iterator(m_commands.undoEnd()), m_commands.numUndo());
         undo();
     }
 }
@@ -171,6 +186,7 @@ void CommandHistory::undoAll()
 void CommandHistory::redoAll()
 {
     while (m_commands.numRedo() > 0) {
+        fetchAhead(m_commands.redoBegin(), m_commands.numRedo());
         redo();
     }
 }

@@ -51,4 +51,12 @@ void MoveCmd::xmlName(XMLable::Options& options) const
     *options.stream << "MoveCmd";
 }
 
+void MoveCmd::fetchAhead(Turn turn) const
+{
+    if (turn == Turn::Far)
+        media()->fetchAhead();
+    else
+        media()->fetchEntryAhead();
+}
+
 }  // namespace tarn

@@ -25,6 +25,8 @@ public:
     boost::shared_ptr<Command> combine(boost::shared_ptr<Command> const& next) override;
 
     void xmlName(XMLable::Options& options) const override;
+    /// The media, and then its entry.
+    void fetchAhead(Turn turn) const override;
 
 private:
     friend class OnePiece<MoveCmd>;

@@ -5,6 +5,7 @@
 #include "commands/RippleUtil.h"
 #include "commands/StackOrQueue.h"
 #include "commands/XmlAttributes.h"
+#include "datatypes/FetchAhead.h"
 #include "timeline/Media.h"
 #include "timeline/Track.h"
 
@@ -42,8 +43,13 @@ void RippleMoveCmd::executeCommands(CommandHandler const*)
         toMove.push(std::move(media));
 
     makeRoomFor(toMove.size());
-    while (!toMove.empty())
+    while (!toMove.empty()) {
+        if (toMove.size() > FetchAhead::k_far)
+            toMove.ahead(FetchAhead::k_far)->fetchAhead();
+        if (toMove.size() > FetchAhead::k_near)
+            toMove.ahead(FetchAhead::k_near)->fetchEntryAhead();
         MultiCommand::execute(MoveCmd::create(m_track, toMove.pop(), m_offset));
+    }
 }
 
 void RippleMoveCmd::xmlName(XMLable::Options& options) const

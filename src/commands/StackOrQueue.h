@@ -62,6 +62,8 @@ public:
         m_elements.pop_front();
         return element;
     }
+    /// What comes out so many turns after the next; there must be one.
+    T const& ahead(std::size_t turns) const { return m_elements[turns]; }
     bool empty() const { return m_elements.empty(); }
     std::size_t size() const { return m_elements.size(); }
 

@@ -118,7 +118,16 @@ public:
         // By their counts, which tells them apart without a share.
         return !m_place.parent.owner_before(track) && !track.owner_before(m_place.parent);
     }
+    /// Where its entry in the track's map lies from now on.
+    void noteEntry(void const* entry) { m_place.entry = entry; }
     bool mayBeLinked() const { return !m_keepsPlace || !m_place.links.empty(); }
+    /// @}
+
+    /// @name For whoever edits many in a row, FetchAhead::k_far and k_near turns before its own
+    /// @{
+    void fetchAhead() const;
+    /// The entry in its track's map, once fetchAhead() has had its time.
+    void fetchEntryAhead() const;
     /// @}
 
     /// The track ranges that edits would give.

@@ -17,6 +17,7 @@ struct MediaPlace
     Range<long long> range;         ///< edit units on the track's clock
     boost::weak_ptr<Track> parent;  ///< empty while the media lies on no track
     LinkList links;                 ///< in order of linking
+    void const* entry = nullptr;    ///< in the track's map: to be fetched ahead, never read
 };
 
 }  // namespace tarn

@@ -155,7 +155,7 @@ void Track::addMediaSansTypeCheck(boost::shared_ptr<Media> const& media, long lo
     MediaMap& entries = medias();
     MediaMap::iterator const after = firstAfter(entries, time);
     if (fitsBetween(entries, entryBefore(entries, after), after, range)) {
-        entries.emplace_hint(after, time, media);
+        media->noteEntry(&*entries.emplace_hint(after, time, media));
     } else {
         refuseIntersecting(*this, range);
         entries[time] = media;

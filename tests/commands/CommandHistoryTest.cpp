@@ -393,6 +393,63 @@ TEST_F(CommandHistoryTest, ACombinationThatGivesNoCommandIsRefusedAndLeavesBothE
     EXPECT_EQ(2u, m_history.numUndoCommands());
 }
 
+// Long rows.
+
+namespace {
+
+/// Notes by its number of which turn it is told, and when it is undone and redone.
+class TurnCmd : public Command
+{
+public:
+    TurnCmd(int number, std::ostringstream& log) : m_number(number), m_log(&log) {}
+
+    TurnCmd* clone() const override { return new TurnCmd(*this); }
+    bool execute(CommandHandler*) override { return true; }
+    bool unexecute(CommandHandler*) override { return note("undo"); }
+    bool reexecute(CommandHandler*) override { return note("redo"); }
+    void fetchAhead(Turn turn) const override { note(turn == Turn::Far ? "far" : "near"); }
+    void xmlName(XMLable::Options& options) const override { *options.stream << "TurnCmd"; }
+
+private:
+    bool note(char const* what) const
+    {
+        *m_log << what << m_number << ' ';
+        return true;
+    }
+
+    int m_number;
+    std::ostringstream* m_log;
+};
+
+}  // namespace
+
+TEST_F(CommandHistoryTest, InLongRowsCommandsAreToldSixteenAndEightTurnsBefore)
+{
+    std::ostringstream turns;
+    for (int number = 0; number < 18; ++number)
+        m_history.execute(boost::shared_ptr<Command>(new TurnCmd(number, turns)));
+    m_history.undoAll();
+    EXPECT_EQ("far1 near9 undo17 far0 near8 undo16 near7 undo15 near6 undo14 near5 undo13 "
+              "near4 undo12 near3 undo11 near2 undo10 near1 undo9 near0 undo8 undo7 undo6 undo5 "
+              "undo4 undo3 undo2 undo1 undo0 ",
+              turns.str());
+    turns.str("");
+    m_history.redoAll();
+    EXPECT_EQ("far16 near8 redo0 far17 near9 redo1 near10 redo2 near11 redo3 near12 redo4 "
+              "near13 redo5 near14 redo6 near15 redo7 near16 redo8 near17 redo9 redo10 redo11 "
+              "redo12 redo13 redo14 redo15 redo16 redo17 ",
+              turns.str());
+}
+
+TEST_F(CommandHistoryTest, InLongRowsMostCommandsNeedNotListen)
+{
+    for (int number = 0; number < 18; ++number)
+        m_history.execute(m_a);
+    log();
+    m_history.undoAll();
+    EXPECT_EQ("-a -a -a -a -a -a -a -a -a -a -a -a -a -a -a -a -a -a ", log());
+}
+
 // Snapshots.
 
 TEST_F(CommandHistoryTest, ASnapshotNamesTheNextToUndoAndAllToRedo)

@@ -43,6 +43,13 @@ TEST_F(RippleMoveCmdTest, ShiftsTheWholeTrackFromItsFirstMedia)
     EXPECT_TRUE(edits(ripple("V1.a", 10), "V1: .aabbc / V2: d"));
 }
 
+TEST_F(RippleMoveCmdTest, ShiftsALongRowEitherWay)
+{
+    given("V1: .abcdefghijklmnopqrstuvwx");
+    EXPECT_TRUE(edits(ripple("V1.a", 20), "V1: ...abcdefghijklmnopqrstuvwx"));
+    EXPECT_TRUE(edits(ripple("V1.a", -30), "V1: abcdefghijklmnopqrstuvwx"));
+}
+
 TEST_F(RippleMoveCmdTest, MovesTheLastFirstToTheRight)
 {
     given("V1: a.bbbcc.d");

@@ -63,6 +63,18 @@ TEST_F(StackOrQueueTest, WhatIsPushedBetweenComesByThePolicy)
     EXPECT_EQ(media("V1.c"), queue.pop());
 }
 
+TEST_F(StackOrQueueTest, ShowsWhatComesSoManyTurnsLater)
+{
+    Medias stack(StackOrder);
+    pushAll(stack);
+    EXPECT_EQ(media("V1.c"), stack.ahead(0));
+    EXPECT_EQ(media("V1.a"), stack.ahead(2));
+    Medias queue(QueueOrder);
+    pushAll(queue);
+    EXPECT_EQ(media("V1.b"), queue.ahead(1));
+    EXPECT_EQ(3u, queue.size());
+}
+
 TEST_F(StackOrQueueTest, ThePoliciesPushAtOppositeEnds)
 {
     std::deque<int> elements{5};

@@ -1,5 +1,6 @@
 #include "commands/CommandHistory.h"
 #include "commands/MoveCmd.h"
+#include "commands/RemoveMediaCmd.h"
 #include "commands/RippleMoveCmd.h"
 #include "exceptions/CollisionException.h"
 #include "support/CountingObserver.h"
@@ -83,6 +84,16 @@ TEST_F(TrackRekeyTest, TheEntryIsTheSameOneUnderAnotherKey)
     EXPECT_EQ((Keys{0, 50, 80}), keys());
     EXPECT_EQ(entry, &track("V1")->medias().at(50));
     EXPECT_EQ(media("V1.b"), *entry);
+}
+
+TEST_F(TrackRekeyTest, AMediaThatLiesNowhereCanBeFetchedAheadToo)
+{
+    given("V1: aa..bb");
+    boost::shared_ptr<Media const> const b = media("V1.b");
+    project->execute(RemoveMediaCmd<Media>::create(track("V1"), b));
+    b->fetchAhead();
+    b->fetchEntryAhead();
+    EXPECT_EQ("V1: aa", strip());
 }
 
 TEST_F(TrackRekeyTest, AMoveKeepsNoShareInTheMedia)
