@@ -63,6 +63,7 @@ struct BarePicture
     };
 
     BareMedia place{};
+    void const* observers = nullptr;
     Value values[23] = {};
     std::array<unsigned int, 108> idents;
     std::string name;
@@ -92,6 +93,32 @@ inline BarePictures copyOf(BarePictures const& pictures)
     for (auto const& entry : pictures)
         copy.emplace_hint(copy.end(), entry.first, boost::make_shared<BarePicture>(*entry.second));
     return copy;
+}
+
+/// What copying and pasting leave beside the copies, in the barest way: who was copied from whom,
+/// what an undo must know, and whom to ask for observers once all is done.
+struct BareNotes
+{
+    struct Added
+    {
+        boost::shared_ptr<BarePictures> track;
+        boost::shared_ptr<BarePicture> picture;
+        long long time;
+    };
+
+    std::vector<std::pair<boost::shared_ptr<BarePicture>, boost::shared_ptr<BarePicture>>> copies;
+    std::vector<Added> undo;
+    std::vector<BarePicture const*> changed;
+};
+
+/// Whether `length` from `time` on is free before `after`.
+inline bool isFree(BarePictures const& track, BarePictures::const_iterator after, long long time,
+                   long long length)
+{
+    if (after != track.end() && after->first < time + length)
+        return false;
+    return after == track.begin() ||
+           std::prev(after)->first + std::prev(after)->second->place.duration <= time;
 }
 
 inline BareTrack bareTrack(std::int64_t n, long long length, long long step)

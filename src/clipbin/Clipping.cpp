@@ -97,8 +97,12 @@ void sortClonesByTrackStart(MediaCloneMap const& map, Clones* clones)
     sorted.reserve(map.size());
     for (MediaCloneMap::value_type const& entry : map)
         sorted.emplace_back(entry.second->trackRange().start, &entry.second);
-    std::sort(sorted.begin(), sorted.end(),
-              [](StartAndClone const& a, StartAndClone const& b) { return a.first < b.first; });
+    auto const isBefore = [](StartAndClone const& a, StartAndClone const& b) {
+        return a.first < b.first;
+    };
+    // Pointers mostly rise as the medias do.
+    if (!std::is_sorted(sorted.begin(), sorted.end(), isBefore))
+        std::sort(sorted.begin(), sorted.end(), isBefore);
     clones->reserve(sorted.size());
     for (StartAndClone const& entry : sorted)
         clones->push_back(*entry.second);

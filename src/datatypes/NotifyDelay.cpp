@@ -63,6 +63,7 @@ struct NotifyDelay::Queue
 private:
     static void takeOut(Entry& entry, Observable const* observable);
     void removeFromTold(Observable const* observable);
+    bool findRoom(Entry const& entry);
     bool mustBeToldStill(Entry const& entry) const;
     void dropFront();
     void closeUp();
@@ -90,21 +91,25 @@ void NotifyDelay::Queue::Entry::count(int change) const
 void NotifyDelay::Queue::add(Entry const& entry)
 {
     std::lock_guard<SpinLock> const guard(m_lock);
+    if (m_entries.size() + 1 + m_numObserved <= m_entries.capacity() || findRoom(entry)) {
+        m_entries.push_back(entry);
+        entry.count(1);
+    }
+}
+
+/// Room for one more, or what is held back for it. @return false when it need not wait
+bool NotifyDelay::Queue::findRoom(Entry const& entry)
+{
     try {
-        if (m_entries.size() + 1 + m_numObserved > m_entries.capacity()) {
-            makeRoom(1);
-        }
+        makeRoom(1);
+        return true;
     } catch (std::bad_alloc const&) {
         if (!entry.subject) {
             throw;
         }
         closeUp();
-        if (!mustBeToldStill(entry)) {
-            return;
-        }
+        return mustBeToldStill(entry);
     }
-    m_entries.push_back(entry);
-    entry.count(1);
 }
 
 /// Who has no observers has nothing to tell; who waits already is told anyway, if only once.
@@ -164,20 +169,20 @@ bool NotifyDelay::Queue::tellNext(Told& told)
     std::lock_guard<SpinLock> const guard(m_lock);
     if (told.isTold) {
         told.entry.count(-1);
-        m_beingTold = told.outer;
-        told.isTold = false;
+    } else {
+        told.outer = m_beingTold;
     }
     while (!m_entries.empty() && !m_entries[m_first].observable) {
         dropFront();
     }
-    if (s_refCount > 0 || m_entries.empty()) {
+    told.isTold = s_refCount <= 0 && !m_entries.empty();
+    if (!told.isTold) {
+        m_beingTold = told.outer;
         return false;
     }
     told.entry = m_entries[m_first];
     dropFront();
-    told.outer = m_beingTold;
     m_beingTold = &told;
-    told.isTold = true;
     return true;
 }
 
@@ -278,8 +283,9 @@ void NotifyDelay::deliver()
 {
     std::exception_ptr first;
     Queue::Told told;
+    Queue& waiting = queue();
     // An observer may open a delay of its own, whose end then delivers what waits here.
-    while (queue().tellNext(told)) {
+    while (waiting.tellNext(told)) {
         try {
             told.entry.observable->notify();
         } catch (...) {

@@ -285,8 +285,11 @@ EdgeModification MediaImpl::removeRightEdgeModification(
 
 void MediaImpl::copyEdgeModifications(MediaImpl const& other)
 {
-    m_leftEdgeMods = retargeted(other.m_leftEdgeMods, this);
-    m_rightEdgeMods = retargeted(other.m_rightEdgeMods, this);
+    // Most have none.
+    if (other.hasEdgeFunctions()) {
+        m_leftEdgeMods = retargeted(other.m_leftEdgeMods, this);
+        m_rightEdgeMods = retargeted(other.m_rightEdgeMods, this);
+    }
 }
 
 void MediaImpl::aimEdgeFunctionsAt(boost::shared_ptr<VisualMedia const> const& media)
