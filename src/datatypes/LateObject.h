@@ -30,7 +30,7 @@ public:
         if (idents)
             std::memcpy(m_idents.data(), idents, sizeof m_idents);  // no call, of a size known here
         else
-            IdentManager::instance()->newIdents(m_idents.data(), N);
+            draw();
     }
     /// Takes N idents over.
     explicit LateObject(ReservedIdent* idents)
@@ -42,7 +42,7 @@ public:
     explicit LateObject(boost::shared_ptr<T> const& object) : m_object(object)
     {
         if (!object)
-            IdentManager::instance()->newIdents(m_idents.data(), N);
+            draw();
     }
     LateObject(LateObject const&) = delete;
     LateObject& operator=(LateObject const&) = delete;
@@ -76,6 +76,14 @@ public:
 private:
     static std::size_t constexpr k_aParameter = 4;
     static std::size_t constexpr k_around = N % k_aParameter;
+
+    void draw()
+    {
+        if constexpr (N == 1)
+            m_idents[0] = IdentManager::instance()->newIdent();
+        else
+            IdentManager::instance()->newIdents(m_idents.data(), N);
+    }
 
     template <class Make>
     boost::shared_ptr<T> madeBy(Make make) const
