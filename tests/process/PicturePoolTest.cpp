@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <new>
 #include <set>
@@ -21,6 +22,7 @@ namespace {
 std::size_t const k_large = 1024;
 int s_largeMade = 0;
 int s_largeLeft = 0;
+std::size_t s_largeBytes = 0;
 // Before each piece its size, in room enough to keep what follows aligned.
 std::size_t const k_header = alignof(std::max_align_t);
 
@@ -38,6 +40,7 @@ std::size_t const k_header = alignof(std::max_align_t);
     if (size >= k_large) {
         ++s_largeMade;
         ++s_largeLeft;
+        s_largeBytes += size;
     }
     return static_cast<char*>(memory) + k_header;
 }
@@ -106,10 +109,13 @@ protected:
 TEST_F(PicturePoolTest, AskTheHeapForManyAtATime)
 {
     int const before = s_largeMade;
+    std::size_t const bytesBefore = s_largeBytes;
     Pictures const pictures = newPictures(640);
     // Sixty-four at a time, and a few for the lists that grow meanwhile.
     EXPECT_LE(s_largeMade - before, 20);
     EXPECT_GE(s_largeMade - before, 6);
+    // Their own bytes, and about as many for the table of numbers each time that it grows.
+    EXPECT_LE(s_largeBytes - bytesBefore, 4 * 640 * sizeof(VMFile));
 }
 
 TEST_F(PicturePoolTest, LieApart)
@@ -162,6 +168,26 @@ TEST_F(PicturePoolTest, SizesDoNotMix)
     EXPECT_EQ('x', small->extra[0]);
     EXPECT_EQ(900, std::count(large->extra, large->extra + 900, 'x'));
     EXPECT_EQ(64.0, plain->width());
+}
+
+TEST_F(PicturePoolTest, SizesThatDifferByAWordLieApart)
+{
+    std::size_t constexpr k_toNextLine = 64 - sizeof(VMFile) % 64;
+    using Full = HostPicture<k_toNextLine>;
+    using Beyond = HostPicture<k_toNextLine + 8>;
+    static_assert(sizeof(Full) % 64 == 0 && sizeof(Beyond) == sizeof(Full) + 8, "as meant");
+    std::map<char const*, std::size_t> places;
+    Pictures pictures;
+    for (int i = 0; i < 20; ++i) {
+        pictures.push_back(std::make_unique<Full>(project->weak()));
+        places[reinterpret_cast<char const*>(pictures.back().get())] = sizeof(Full);
+        pictures.push_back(std::make_unique<Beyond>(project->weak()));
+        places[reinterpret_cast<char const*>(pictures.back().get())] = sizeof(Beyond);
+    }
+    for (auto place = std::next(places.begin()); place != places.end(); ++place) {
+        auto const before = std::prev(place);
+        EXPECT_LE(before->first + before->second, place->first);
+    }
 }
 
 TEST_F(PicturePoolTest, AVeryLargeOneComesFromTheHeap)
